@@ -1,0 +1,17 @@
+# What a builder can choose. Everything that only the library's own developers need is on at top level alone.
+set(kqtui_top_level OFF)
+if(CMAKE_SOURCE_DIR STREQUAL PROJECT_SOURCE_DIR)
+  set(kqtui_top_level ON)
+endif()
+
+option(BUILD_SHARED_LIBS "Build KQtUi as a shared library" ON)
+option(KQTUI_BUILD_TESTS "Build the tests" ${kqtui_top_level})
+option(KQTUI_BUILD_EXAMPLES "Build the gallery" ${kqtui_top_level})
+option(KQTUI_BUILD_BENCHMARKS "Build the benchmarks (Google Benchmark)" OFF)
+option(KQTUI_BUILD_FUZZERS "Build the fuzzers (clang's libFuzzer)" OFF)
+option(KQTUI_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
+set(KQTUI_SANITIZE "" CACHE STRING "Sanitizers for every target, as the compiler spells them: address,undefined")
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Build type" FORCE)
+endif()
