@@ -1,0 +1,46 @@
+#pragma once
+
+#include <KQt/Ui/Export.h>
+
+#include <Qt>
+
+#include <functional>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+namespace Kestrel::Gui::Helpers {
+
+/// A base class that switches the stay-on-top state of a window through a getter and a setter of its window flags.
+///
+/// The flags are read anew at each call, so changes made by others are seen, and are written only where the state
+/// changes: writing a widget's flags re-creates and hides its window. Copies act on the same window.
+class KQTUI_EXPORT AlwaysOnTop
+{
+public:
+    AlwaysOnTop(const AlwaysOnTop& other);
+    AlwaysOnTop& operator=(const AlwaysOnTop& other);
+
+    bool IsAlwaysOnTop() const;
+    /// @throws std::bad_function_call where the helper was built from an empty function; so do the others.
+    void EnableAlswaysOnTop();
+    void DisableAlswaysOnTop();
+    void SetAlwaysOnTop(bool alwaysOnTop);
+
+protected:
+    /// Works on the flags of @p widget, which must outlive the helper and all copies of it.
+    explicit AlwaysOnTop(QWidget& widget);
+    AlwaysOnTop(std::function<Qt::WindowFlags()> flagsGetter, std::function<void(Qt::WindowFlags)> flagsSetter);
+    virtual ~AlwaysOnTop();
+
+private:
+    Qt::WindowFlags GetFlags() const;
+    void SetFlags(Qt::WindowFlags flags);
+    void CheckInvariant() const;
+
+    std::function<Qt::WindowFlags()> m_flagsGetter;
+    std::function<void(Qt::WindowFlags)> m_flagsSetter;
+};
+
+} // namespace Kestrel::Gui::Helpers
