@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+QT_BEGIN_NAMESPACE
+class QFormLayout;
+class QVBoxLayout;
+QT_END_NAMESPACE
+
+namespace Gallery {
+
+class SignalLog;
+
+/// One page of the gallery: a stage with live components, controls for their properties beside it, a log of their
+/// signals below.
+///
+/// A page is built in its constructor: components into stage(), controls into controls(), and connections that call
+/// log(). The gallery builds every page anew when the language changes, so texts are simply tr() where they are set.
+class Page : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Something that the page can open on top of itself, for the gallery's pictures.
+    struct Popup
+    {
+        QString name;                   ///< part of the picture's file name: lower case, words joined by "-"
+        std::function<QWidget*()> open; ///< shows it and returns the widget to take the picture of
+    };
+
+    /// @param introduction a sentence or two above the stage: what can be seen and tried here.
+    explicit Page(const QString& introduction, QWidget* parent = nullptr);
+
+    /// What the page can open; none by default. The gallery closes what it opened.
+    virtual std::vector<Popup> popups();
+
+protected:
+    QVBoxLayout* stage() const { return m_stage; }
+    QFormLayout* controls() const { return m_controls; }
+    void log(const QString& line);
+
+    /// Adds a check box to the controls and calls @p apply with its initial and every later state.
+    void addSwitch(const QString& label, bool initial, std::function<void(bool)> apply);
+
+private:
+    QVBoxLayout* m_stage;
+    QFormLayout* m_controls;
+    SignalLog* m_log;
+};
+
+} // namespace Gallery
