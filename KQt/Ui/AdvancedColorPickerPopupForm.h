@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QtGlobal>
+
+QT_BEGIN_NAMESPACE
+class QFrame;
+class QGridLayout;
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+class QSlider;
+class QSpinBox;
+QT_END_NAMESPACE
+
+namespace Kestrel::Gui {
+
+class AdvancedColorPickerPopup;
+
+/// The widgets and layouts of AdvancedColorPickerPopup except its swatches. Members are named like the objects, for the
+/// style sheet refers to them. The popup owns what the record points to.
+struct AdvancedColorPickerPopupForm
+{
+    /// Builds everything on @p popup, with texts, style sheet and the connections between the widgets of the form.
+    explicit AdvancedColorPickerPopupForm(QFrame* popup);
+
+    /// Sets the texts in the current language.
+    void retranslate();
+
+    QGridLayout* gridLayout_2;
+    QHBoxLayout* horizontalLayout;
+    QLabel* colorIndicator;
+    QLineEdit* colorEdit;
+    QSpinBox* opacityEdit;
+    QFrame* userSelectedColorsFrame;
+    QHBoxLayout* userSelectedColors;
+    QFrame* colorButtonsFrame;
+    QGridLayout* colorButtonsLayout;
+    QFrame* opacityFrame;
+    QHBoxLayout* horizontalLayout_3;
+    QLabel* label;
+    QSlider* opacitySlider;
+};
+
+} // namespace Kestrel::Gui

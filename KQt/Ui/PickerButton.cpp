@@ -1,0 +1,48 @@
+#include <KQt/Ui/PickerButton.h>
+
+#include <QBrush>
+#include <QPainter>
+
+namespace Kestrel::Gui {
+
+namespace {
+
+// Width of the ring around a checked swatch, in pixels.
+constexpr int RingWidth = 3;
+
+} // namespace
+
+PickerButton::PickerButton(const QColor& color, QWidget* parent)
+    : QToolButton(parent)
+    , m_color(color)
+{
+    setCheckable(true);
+}
+
+PickerButton::~PickerButton() = default;
+
+QColor PickerButton::color() const
+{
+    return m_color;
+}
+
+void PickerButton::setColor(const QColor& color)
+{
+    m_color = color;
+    update();
+    Q_EMIT colorChanged(m_color);
+}
+
+// The base class is left out on purpose: no frame, no hover, no focus, only the colour.
+void PickerButton::paintEvent(QPaintEvent*) // clazy:exclude=skipped-base-method
+{
+    QPainter painter(this);
+    QRect colored = rect();
+    if (isChecked()) {
+        painter.fillRect(colored, QBrush(Qt::black, Qt::Dense5Pattern));
+        colored.adjust(RingWidth, RingWidth, -RingWidth, -RingWidth);
+    }
+    painter.fillRect(colored, m_color);
+}
+
+} // namespace Kestrel::Gui
