@@ -6,6 +6,7 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -22,24 +23,52 @@ Page::Page(const QString& introduction, QWidget* parent)
     auto* text = new QLabel(introduction);
     text->setWordWrap(true);
 
+    auto* splitter = new QSplitter(Qt::Vertical);
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(createUpperHalf());
+    splitter->addWidget(createLogBox());
+    splitter->setStretchFactor(0, 1);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(text);
+    layout->addWidget(splitter, 1);
+}
+
+QWidget* Page::createUpperHalf()
+{
+    constexpr int stageMargin = 16;
+    auto* stageFrame = new QFrame;
+    stageFrame->setFrameShape(QFrame::StyledPanel);
+    stageFrame->setBackgroundRole(QPalette::Base);
+    stageFrame->setAutoFillBackground(true);
+    m_stage->setContentsMargins(stageMargin, stageMargin, stageMargin, stageMargin);
+    stageFrame->setLayout(m_stage);
+
     auto* controlsBox = new QGroupBox(tr("Properties"));
     controlsBox->setLayout(m_controls);
 
-    auto* upper = new QWidget;
-    auto* upperLayout = new QHBoxLayout(upper);
-    upperLayout->setContentsMargins({});
-    upperLayout->addLayout(m_stage, 1);
-    upperLayout->addWidget(controlsBox);
+    auto* half = new QWidget;
+    auto* layout = new QHBoxLayout(half);
+    layout->setContentsMargins({});
+    layout->addWidget(stageFrame, 1);
+    layout->addWidget(controlsBox);
+    return half;
+}
 
-    auto* splitter = new QSplitter(Qt::Vertical);
-    splitter->addWidget(upper);
-    splitter->addWidget(m_log);
-    splitter->setStretchFactor(0, 1);
-    splitter->setCollapsible(0, false);
+QWidget* Page::createLogBox()
+{
+    constexpr int fewestLines = 5;
+    m_log->setMinimumHeight(m_log->fontMetrics().lineSpacing() * fewestLines);
 
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(text);
-    layout->addWidget(splitter, 1);
+    auto* clear = new QPushButton(tr("Clear"));
+    connect(clear, &QPushButton::clicked, m_log, &SignalLog::clear);
+
+    auto* box = new QGroupBox(tr("Signals"));
+    auto* layout = new QHBoxLayout(box);
+    layout->addWidget(m_log, 1);
+    layout->addWidget(clear, 0, Qt::AlignTop);
+    return box;
 }
 
 std::vector<Page::Popup> Page::popups()
@@ -50,6 +79,11 @@ std::vector<Page::Popup> Page::popups()
 void Page::log(const QString& line)
 {
     m_log->add(line);
+}
+
+void Page::logCounted(const QString& line)
+{
+    m_log->addCounted(line);
 }
 
 void Page::addSwitch(const QString& label, bool initial, std::function<void(bool)> apply)

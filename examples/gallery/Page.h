@@ -41,11 +41,16 @@ protected:
     QVBoxLayout* stage() const { return m_stage; }
     QFormLayout* controls() const { return m_controls; }
     void log(const QString& line);
+    /// The same for signals that come in swarms: repetitions share one line, which counts them.
+    void logCounted(const QString& line);
 
     /// Adds a check box to the controls and calls @p apply with its initial and every later state.
     void addSwitch(const QString& label, bool initial, std::function<void(bool)> apply);
 
 private:
+    QWidget* createUpperHalf();
+    QWidget* createLogBox();
+
     QVBoxLayout* m_stage;
     QFormLayout* m_controls;
     SignalLog* m_log;

@@ -1,5 +1,8 @@
 #include "PageRegistry.h"
 
+#include <QCoreApplication>
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <utility>
 
@@ -24,12 +27,28 @@ PageRegistration::PageRegistration(int position, const char* title, std::functio
     registry().push_back(*this);
 }
 
+QString PageRegistration::translatedTitle() const
+{
+    return QCoreApplication::translate("Gallery", title);
+}
+
+QString PageRegistration::slug() const
+{
+    return Gallery::slug(QString::fromUtf8(title));
+}
+
 std::vector<PageRegistration> registeredPages()
 {
     std::vector<PageRegistration> pages = registry();
     std::sort(pages.begin(), pages.end(),
               [](const PageRegistration& a, const PageRegistration& b) { return a.position < b.position; });
     return pages;
+}
+
+QString slug(const QString& text)
+{
+    static const QRegularExpression betweenWords(QStringLiteral("[^a-z0-9]+"));
+    return text.toLower().split(betweenWords, Qt::SkipEmptyParts).join(QLatin1Char('-'));
 }
 
 } // namespace Gallery

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QString>
 
 #include <functional>
 #include <vector>
@@ -13,7 +13,8 @@ namespace Gallery {
 
 class Page;
 
-/// How the gallery knows its pages: each page's file defines one of these at namespace scope.
+/// How the gallery knows its pages: each page's file defines one of these at namespace scope. The page's class declares
+/// its own translation context: Q_DECLARE_TR_FUNCTIONS(Gallery::AdvancedColorPickerPage).
 ///
 ///     const PageRegistration registration(100, QT_TRANSLATE_NOOP("Gallery", "Advanced colour picker"),
 ///                                         [](QWidget* parent) { return new AdvancedColorPickerPage(parent); });
@@ -23,6 +24,10 @@ struct PageRegistration
     /// @param title    untranslated, context "Gallery"; a string literal
     PageRegistration(int position, const char* title, std::function<Page*(QWidget* parent)> create);
 
+    QString translatedTitle() const;
+    /// The title as part of a file name and on the command line, in no language but the sources'.
+    QString slug() const;
+
     int position;
     const char* title;
     std::function<Page*(QWidget* parent)> create;
@@ -30,5 +35,8 @@ struct PageRegistration
 
 /// Every registered page in the order of the list.
 std::vector<PageRegistration> registeredPages();
+
+/// @p text in lower case, its words joined by "-".
+QString slug(const QString& text);
 
 } // namespace Gallery

@@ -12,8 +12,20 @@ class SignalLog : public QPlainTextEdit
 public:
     explicit SignalLog(QWidget* parent = nullptr);
 
+    QSize sizeHint() const override;
+
     /// Adds a line: "sender.signal(arguments)" as the caller words it.
     void add(const QString& line);
+
+    /// The same for signals that come in swarms, as a moving mouse sends them: takes the place of the newest line where
+    /// that holds the same signal, and counts.
+    void addCounted(const QString& line);
+
+private:
+    void replaceNewest(const QString& line);
+
+    QString m_countedSignal;
+    int m_count = 0;
 };
 
 } // namespace Gallery

@@ -1,15 +1,102 @@
-#include "Page.h"
-#include "PageRegistry.h"
+#include "AppIcon.h"
+#include "CommandLine.h"
+#include "LanguageSwitch.h"
+#include "MainWindow.h"
+#include "Screenshots.h"
 
 #include <QApplication>
-#include <QTabWidget>
+#include <QTextStream>
+
+using namespace Gallery;
+
+namespace {
+
+enum ExitCode { Success = 0, Failure = 1, WrongUsage = 2 };
+
+// Without a display the xcb platform would end the process; pictures can be made all the same.
+void fallBackToOffscreenPlatform()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+        && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+#endif
+}
+
+bool nobodyCouldSeeAWindow()
+{
+    const QString platform = QGuiApplication::platformName();
+    return platform == QLatin1String("offscreen") || platform == QLatin1String("minimal");
+}
+
+int refuse(const CommandLine& commandLine)
+{
+    QTextStream(stderr) << QCoreApplication::applicationName() << ": " << commandLine.errorText() << "\n\n"
+                        << commandLine.usage();
+    return WrongUsage;
+}
+
+int showWindow(const Options& options, LanguageSwitch& language)
+{
+    MainWindow window(language);
+    window.setScheme(options.scheme);
+    window.setLanguage(options.language);
+    if (options.rightToLeft)
+        window.setRightToLeft(true);
+    window.showPage(options.page);
+    window.show();
+    return QApplication::exec();
+}
+
+int renderPages(const Options& options, LanguageSwitch& language, const QString& folder)
+{
+    applyScheme(options.scheme);
+    language.use(options.language);
+    if (options.rightToLeft)
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    return Screenshots(folder).write(options.page) ? Success : Failure;
+}
+
+int run(const Options& options)
+{
+    LanguageSwitch language;
+    if (!options.screenshotFolder.isEmpty())
+        return renderPages(options, language, options.screenshotFolder);
+    if (!nobodyCouldSeeAWindow())
+        return showWindow(options, language);
+
+    const QString folder = QStringLiteral("gallery-screenshots");
+    QTextStream(stdout) << "No display: rendering the pages to ./" << folder << Qt::endl;
+    return renderPages(options, language, folder);
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
+    fallBackToOffscreenPlatform();
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     const QApplication application(argc, argv);
-    QTabWidget window;
-    for (const auto& page : Gallery::registeredPages())
-        window.addTab(page.create(&window), QString::fromLatin1(page.title));
-    window.show();
-    return QApplication::exec();
+    QCoreApplication::setApplicationName(QStringLiteral("kqtui-gallery"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(KQTUI_VERSION));
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setWindowIcon(applicationIcon());
+    applyScheme(Scheme::Light);
+
+    CommandLine commandLine;
+    const auto options = commandLine.read(QCoreApplication::arguments());
+    if (!options)
+        return refuse(commandLine);
+    if (options->help) {
+        QTextStream(stdout) << commandLine.usage();
+        return Success;
+    }
+    if (options->version) {
+        QTextStream(stdout) << QCoreApplication::applicationName() << ' ' << QCoreApplication::applicationVersion()
+                            << Qt::endl;
+        return Success;
+    }
+    return run(*options);
 }

@@ -1,0 +1,108 @@
+#include "Screenshots.h"
+
+#include "Page.h"
+#include "PageFrame.h"
+#include "PageRegistry.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QImage>
+#include <QPixmap>
+#include <QPointer>
+#include <QTextStream>
+#include <QWindow>
+
+namespace Gallery {
+
+namespace {
+
+constexpr QSize comfortableSize(900, 620);
+
+// A picture is right once the window system gave the widget its place and every posted layout and paint was done.
+void waitUntilShown(const QPointer<QWidget>& widget)
+{
+    constexpr int longestWait = 5000; // milliseconds
+    QDeadlineTimer deadline(longestWait);
+    const auto exposed = [&widget] {
+        return widget && widget->windowHandle() && widget->windowHandle()->isExposed();
+    };
+    while (widget && !exposed() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, static_cast<int>(deadline.remainingTime()));
+    QCoreApplication::processEvents();
+}
+
+bool isOfOneColor(const QImage& picture)
+{
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixel(x, y) != picture.pixel(0, 0))
+                return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+Screenshots::Screenshots(const QString& folder)
+    : m_folder(folder)
+{
+    if (!m_folder.mkpath(QStringLiteral(".")))
+        fail(QStringLiteral("can't make the folder %1").arg(QDir::toNativeSeparators(folder)));
+}
+
+bool Screenshots::write(const QString& onlyPage)
+{
+    if (!m_ok)
+        return false;
+    for (const PageRegistration& registration : registeredPages()) {
+        if (onlyPage.isEmpty() || registration.slug() == onlyPage)
+            writePage(registration);
+    }
+    return m_ok;
+}
+
+void Screenshots::writePage(const PageRegistration& registration)
+{
+    PageFrame frame(registration);
+    frame.setWindowTitle(registration.translatedTitle());
+    frame.resize(comfortableSize.expandedTo(frame.minimumSizeHint()));
+    frame.show();
+    waitUntilShown(&frame);
+    writePicture(frame, registration.slug());
+    writePopups(*frame.page(), registration.slug());
+}
+
+void Screenshots::writePopups(Page& page, const QString& pageSlug)
+{
+    for (const Page::Popup& popup : page.popups()) {
+        const QString name = QStringLiteral("%1--%2").arg(pageSlug, popup.name);
+        const QPointer<QWidget> opened = popup.open();
+        waitUntilShown(opened);
+        if (!opened) {
+            fail(QStringLiteral("%1 did not open").arg(name));
+            continue;
+        }
+        writePicture(*opened, name);
+        opened->close();
+    }
+}
+
+void Screenshots::writePicture(QWidget& widget, const QString& name)
+{
+    const QString path = QDir::toNativeSeparators(m_folder.absoluteFilePath(name + QStringLiteral(".png")));
+    const QImage picture = widget.grab().toImage();
+    if (isOfOneColor(picture))
+        return fail(QStringLiteral("%1 is empty").arg(name));
+    if (!picture.save(path))
+        return fail(QStringLiteral("can't write %1").arg(path));
+    QTextStream(stdout) << path << Qt::endl;
+}
+
+void Screenshots::fail(const QString& reason)
+{
+    m_ok = false;
+    QTextStream(stderr) << QCoreApplication::applicationName() << ": " << reason << Qt::endl;
+}
+
+} // namespace Gallery

@@ -1,0 +1,126 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar" sourcelanguage="en">
+<context>
+    <name>Gallery</name>
+    <message>
+        <source>Event helpers</source>
+        <translation>مساعدات الأحداث</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::EventHelpersPage</name>
+    <message>
+        <source>Scribble on the pad: the lamps below show the signals that the helpers make of its events. Without propagation the signals still come, but the pad itself sees no mouse any more.</source>
+        <translation>ارسم على اللوحة: تعرض المصابيح أدناه الإشارات التي تصنعها المساعدات من أحداثها. من دون تمرير الأحداث تستمر الإشارات، لكن اللوحة نفسها لا ترى الفأرة.</translation>
+    </message>
+    <message>
+        <source>Scribble here</source>
+        <translation>ارسم هنا</translation>
+    </message>
+    <message>
+        <source>Events go on to the pad</source>
+        <translation>تمرير الأحداث إلى اللوحة</translation>
+    </message>
+    <message>
+        <source>Hover events</source>
+        <translation>أحداث التحويم</translation>
+    </message>
+    <message>
+        <source>Moves without a button</source>
+        <translation>الحركة دون زر</translation>
+    </message>
+    <message>
+        <source>Wipe the pad</source>
+        <translation>مسح اللوحة</translation>
+    </message>
+    <message>
+        <source>Drop it here</source>
+        <translation>أفلته هنا</translation>
+    </message>
+    <message>
+        <source>Drag this text</source>
+        <translation>اسحب هذا النص</translation>
+    </message>
+    <message>
+        <source>Drop field is guarded</source>
+        <translation>حماية حقل الإفلات</translation>
+    </message>
+    <message>
+        <source>Window stays on top</source>
+        <translation>النافذة دائمًا في المقدمة</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::MainWindow</name>
+    <message>
+        <source>KQtUi gallery</source>
+        <translation>معرض KQtUi</translation>
+    </message>
+    <message>
+        <source>&amp;Find a page</source>
+        <translation>&amp;بحث عن صفحة</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;خروج</translation>
+    </message>
+    <message>
+        <source>&amp;Dark palette</source>
+        <translation>ألوان &amp;داكنة</translation>
+    </message>
+    <message>
+        <source>&amp;Right to left</source>
+        <translation>من ال&amp;يمين إلى اليسار</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;ملف</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;عرض</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>ال&amp;لغة</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>اللغة</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::Page</name>
+    <message>
+        <source>Properties</source>
+        <translation>الخصائص</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>مسح</translation>
+    </message>
+    <message>
+        <source>Signals</source>
+        <translation>الإشارات</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::PageList</name>
+    <message>
+        <source>Filter</source>
+        <translation>تصفية</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>الصفحات</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::SignalLog</name>
+    <message>
+        <source>Signals appear here.</source>
+        <translation>تظهر الإشارات هنا.</translation>
+    </message>
+</context>
+</TS>

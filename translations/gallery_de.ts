@@ -1,0 +1,126 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Gallery</name>
+    <message>
+        <source>Event helpers</source>
+        <translation>Ereignishelfer</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::EventHelpersPage</name>
+    <message>
+        <source>Scribble on the pad: the lamps below show the signals that the helpers make of its events. Without propagation the signals still come, but the pad itself sees no mouse any more.</source>
+        <translation>Kritzeln Sie auf dem Block: Die Lampen darunter zeigen die Signale, die die Helfer aus seinen Ereignissen machen. Werden die Ereignisse nicht weitergereicht, kommen die Signale noch immer, doch der Block selbst spürt keine Maus mehr.</translation>
+    </message>
+    <message>
+        <source>Scribble here</source>
+        <translation>Hier kritzeln</translation>
+    </message>
+    <message>
+        <source>Events go on to the pad</source>
+        <translation>Ereignisse erreichen den Block</translation>
+    </message>
+    <message>
+        <source>Hover events</source>
+        <translation>Schwebe-Ereignisse</translation>
+    </message>
+    <message>
+        <source>Moves without a button</source>
+        <translation>Bewegungen ohne Taste</translation>
+    </message>
+    <message>
+        <source>Wipe the pad</source>
+        <translation>Block abwischen</translation>
+    </message>
+    <message>
+        <source>Drop it here</source>
+        <translation>Hier ablegen</translation>
+    </message>
+    <message>
+        <source>Drag this text</source>
+        <translation>Diesen Text ziehen</translation>
+    </message>
+    <message>
+        <source>Drop field is guarded</source>
+        <translation>Ablagefeld ist geschützt</translation>
+    </message>
+    <message>
+        <source>Window stays on top</source>
+        <translation>Fenster bleibt im Vordergrund</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::MainWindow</name>
+    <message>
+        <source>KQtUi gallery</source>
+        <translation>KQtUi-Galerie</translation>
+    </message>
+    <message>
+        <source>&amp;Find a page</source>
+        <translation>Seite &amp;suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Dark palette</source>
+        <translation>&amp;Dunkle Farben</translation>
+    </message>
+    <message>
+        <source>&amp;Right to left</source>
+        <translation>Von &amp;rechts nach links</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::Page</name>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Signals</source>
+        <translation>Signale</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::PageList</name>
+    <message>
+        <source>Filter</source>
+        <translation>Filtern</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::SignalLog</name>
+    <message>
+        <source>Signals appear here.</source>
+        <translation>Hier erscheinen Signale.</translation>
+    </message>
+</context>
+</TS>
