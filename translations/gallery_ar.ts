@@ -7,6 +7,57 @@
         <source>Event helpers</source>
         <translation>مساعدات الأحداث</translation>
     </message>
+    <message>
+        <source>Advanced colour picker</source>
+        <translation>منتقي الألوان المتقدم</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::AdvancedColorPickerPage</name>
+    <message>
+        <source>Click a colour to open its popup; the note takes the new colour while you choose.</source>
+        <translation>انقر لونًا لفتح نافذته المنبثقة؛ تأخذ الملاحظة اللون الجديد أثناء الاختيار.</translation>
+    </message>
+    <message>
+        <source>Buy milk, feed the cat</source>
+        <translation>اشترِ الحليب وأطعم القط</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>الورق</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>الحبر</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation>قلم التمييز</translation>
+    </message>
+    <message>
+        <source>Drag a colour from the palette to one of the twelve slots above it. The slots are shared: open another picker and find the colour there.</source>
+        <translation>اسحب لونًا من اللوح إلى إحدى الخانات الاثنتي عشرة فوقه. الخانات مشتركة: افتح منتقيًا آخر وستجد اللون هناك.</translation>
+    </message>
+    <message>
+        <source>Opacity of the marker</source>
+        <translation>عتامة قلم التمييز</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>مُفعّل</translation>
+    </message>
+    <message>
+        <source>Random colours</source>
+        <translation>ألوان عشوائية</translation>
+    </message>
+    <message>
+        <source>A colour that is set by the program makes no signal.</source>
+        <translation>اللون الذي يضبطه البرنامج لا يصدر إشارة.</translation>
+    </message>
+    <message>
+        <source>Open popup here</source>
+        <translation>افتح النافذة هنا</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::EventHelpersPage</name>

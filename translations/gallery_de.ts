@@ -7,6 +7,57 @@
         <source>Event helpers</source>
         <translation>Ereignishelfer</translation>
     </message>
+    <message>
+        <source>Advanced colour picker</source>
+        <translation>Erweiterte Farbauswahl</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::AdvancedColorPickerPage</name>
+    <message>
+        <source>Click a colour to open its popup; the note takes the new colour while you choose.</source>
+        <translation>Klicken Sie auf eine Farbe, um ihr Popup zu öffnen; der Zettel zeigt die neue Farbe schon beim Wählen.</translation>
+    </message>
+    <message>
+        <source>Buy milk, feed the cat</source>
+        <translation>Milch kaufen, Katze füttern</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>Ink</source>
+        <translation>Tinte</translation>
+    </message>
+    <message>
+        <source>Marker</source>
+        <translation>Textmarker</translation>
+    </message>
+    <message>
+        <source>Drag a colour from the palette to one of the twelve slots above it. The slots are shared: open another picker and find the colour there.</source>
+        <translation>Ziehen Sie eine Farbe aus der Palette auf eines der zwölf Felder darüber. Die Felder sind allen gemeinsam: Öffnen Sie eine andere Auswahl und finden Sie die Farbe dort.</translation>
+    </message>
+    <message>
+        <source>Opacity of the marker</source>
+        <translation>Deckkraft des Textmarkers</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Aktiviert</translation>
+    </message>
+    <message>
+        <source>Random colours</source>
+        <translation>Zufällige Farben</translation>
+    </message>
+    <message>
+        <source>A colour that is set by the program makes no signal.</source>
+        <translation>Eine vom Programm gesetzte Farbe löst kein Signal aus.</translation>
+    </message>
+    <message>
+        <source>Open popup here</source>
+        <translation>Popup hier öffnen</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::EventHelpersPage</name>

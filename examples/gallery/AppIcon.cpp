@@ -20,7 +20,8 @@ void paintIcon(QPainter& painter, qreal size)
     const qreal gap = size * 0.08;
     const qreal side = (size - 2 * margin - gap) / 2;
     for (int i = 0; i < 4; ++i) {
-        const QPointF corner(margin + (i % 2) * (side + gap), margin + (i / 2) * (side + gap)); // NOLINT(bugprone-integer-division)
+        const QPointF corner(margin + (i % 2) * (side + gap),
+                             margin + (i / 2) * (side + gap)); // NOLINT(bugprone-integer-division)
         painter.setBrush(QColor(swatchColors[i]));
         painter.drawRoundedRect(QRectF(corner, QSizeF(side, side)), side * 0.2, side * 0.2);
     }

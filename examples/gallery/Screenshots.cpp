@@ -23,9 +23,7 @@ void waitUntilShown(const QPointer<QWidget>& widget)
 {
     constexpr int longestWait = 5000; // milliseconds
     QDeadlineTimer deadline(longestWait);
-    const auto exposed = [&widget] {
-        return widget && widget->windowHandle() && widget->windowHandle()->isExposed();
-    };
+    const auto exposed = [&widget] { return widget && widget->windowHandle() && widget->windowHandle()->isExposed(); };
     while (widget && !exposed() && !deadline.hasExpired())
         QCoreApplication::processEvents(QEventLoop::AllEvents, static_cast<int>(deadline.remainingTime()));
     QCoreApplication::processEvents();

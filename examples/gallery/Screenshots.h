@@ -13,8 +13,8 @@ struct PageRegistration;
 
 /// Writes pictures of pages and of what they can open, and says on the standard streams where each went.
 ///
-/// A page's picture is "<slug>.png", that of a popup "<slug>--<popup>.png". A picture that is of one colour, or can't be
-/// written, is a failure; the others are written all the same.
+/// A page's picture is "<slug>.png", that of a popup "<slug>--<popup>.png". A picture that is of one colour, or can't
+/// be written, is a failure; the others are written all the same.
 class Screenshots
 {
 public:

@@ -5,6 +5,7 @@
 #include "Screenshots.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QTextStream>
 
 using namespace Gallery;
@@ -17,8 +18,8 @@ enum ExitCode { Success = 0, Failure = 1, WrongUsage = 2 };
 void fallBackToOffscreenPlatform()
 {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
-    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
-        && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
+        qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
 #endif
@@ -28,6 +29,13 @@ bool nobodyCouldSeeAWindow()
 {
     const QString platform = QGuiApplication::platformName();
     return platform == QLatin1String("offscreen") || platform == QLatin1String("minimal");
+}
+
+// There is no desktop whose font could be followed; the platform's own is larger than on any.
+void useDesktopFont()
+{
+    constexpr int points = 10;
+    QApplication::setFont(QFont(QStringLiteral("sans-serif"), points));
 }
 
 int refuse(const CommandLine& commandLine)
@@ -84,6 +92,8 @@ int main(int argc, char* argv[])
     QApplication::setStyle(QStringLiteral("fusion"));
     QApplication::setWindowIcon(applicationIcon());
     applyScheme(Scheme::Light);
+    if (nobodyCouldSeeAWindow())
+        useDesktopFont();
 
     CommandLine commandLine;
     const auto options = commandLine.read(QCoreApplication::arguments());
