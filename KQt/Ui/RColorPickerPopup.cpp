@@ -1,0 +1,303 @@
+#include <KQt/Ui/RColorPickerPopup.h>
+
+#include <KQt/Ui/NamedPalette.h>
+
+#include <KQtUtil/WidgetStyle.h>
+
+#include <QAbstractSpinBox>
+#include <QColorDialog>
+#include <QCursor>
+#include <QDialogButtonBox>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QPushButton>
+
+namespace Kestrel::Gui {
+
+namespace {
+
+// The layout in pixels.
+constexpr int cellSize = 12;
+constexpr int cellDistance = 16;
+constexpr int cellsLeft = 8;
+constexpr int cellsTop = 34;
+constexpr int hoverMargin = 2;
+constexpr int buttonMargin = 4;
+constexpr int buttonHeight = 20;
+constexpr int defaultButtonTop = 5;
+constexpr int moreButtonBelowLastRow = 55;
+constexpr QSize initialSize(140, 145);
+
+QRectF cellRect(int index)
+{
+    const int column = index % Detail::namedPaletteColumns;
+    const int row = index / Detail::namedPaletteColumns;
+    return QRectF(column * cellDistance + cellsLeft, row * cellDistance + cellsTop, cellSize, cellSize);
+}
+
+QRectF buttonRect(int top, int popupWidth)
+{
+    return QRectF(buttonMargin, top, popupWidth - 2 * buttonMargin, buttonHeight);
+}
+
+int moreButtonTop()
+{
+    return (Detail::namedPaletteRows - 1) * cellDistance + moreButtonBelowLastRow;
+}
+
+void hideSpinBoxButtons(const QDialog& dialog)
+{
+    const auto spinBoxes = dialog.findChildren<QAbstractSpinBox*>();
+    for (QAbstractSpinBox* spinBox : spinBoxes)
+        spinBox->setButtonSymbols(QAbstractSpinBox::NoButtons);
+}
+
+void styleDialogButtons(const QDialog& dialog)
+{
+    const auto* buttons = dialog.findChild<QDialogButtonBox*>();
+    if (!buttons)
+        return;
+    constexpr const char* styleProperty = "styleHint";
+    Util::ApplyWidgetStyle(buttons->button(QDialogButtonBox::Ok), QStringLiteral("activeButton"), styleProperty);
+    Util::ApplyWidgetStyle(buttons->button(QDialogButtonBox::Cancel), QStringLiteral("rejectButton"), styleProperty);
+}
+
+} // namespace
+
+RColorPickerPopup::RColorPickerPopup(QWidget* parent)
+    : QFrame(parent, Qt::Popup)
+    , m_borderDialogColor(palette().color(QPalette::Text))
+{
+    setFrameShape(QFrame::StyledPanel);
+    setFrameShadow(QFrame::Plain);
+    resize(initialSize);
+}
+
+RColorPickerPopup::~RColorPickerPopup() = default;
+
+void RColorPickerPopup::selectDefaultColor(QColor color)
+{
+    m_defaultColor = color;
+}
+
+void RColorPickerPopup::selectHoverColor(QColor color)
+{
+    m_hoverColor = color;
+}
+
+void RColorPickerPopup::paintButton(QPainter* painter, QRectF rect, QString text, bool hover)
+{
+    if (!hover)
+        painter->setPen(m_borderButtonColor);
+    painter->fillRect(rect, hover ? m_buttonHoverColor : m_buttonNormalColor);
+
+    const QBrush previousBrush = painter->brush();
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(rect);
+    painter->setBrush(previousBrush);
+
+    // The hover text colour is not used: the text stays readable on both fills.
+    painter->setPen(m_buttonNormalTextColor);
+    painter->drawText(rect, Qt::AlignHCenter | Qt::AlignVCenter, text);
+}
+
+QColor RColorPickerPopup::ButtonNormalColor() const
+{
+    return m_buttonNormalColor;
+}
+
+void RColorPickerPopup::SetButtonNormalColor(QColor color)
+{
+    m_buttonNormalColor = color;
+    update();
+}
+
+QColor RColorPickerPopup::ButtonHoverColor() const
+{
+    return m_buttonHoverColor;
+}
+
+void RColorPickerPopup::SetButtonHoverColor(QColor color)
+{
+    m_buttonHoverColor = color;
+    update();
+}
+
+QColor RColorPickerPopup::ButtonNormalTextColor() const
+{
+    return m_buttonNormalTextColor;
+}
+
+void RColorPickerPopup::SetButtonNormalTextColor(QColor color)
+{
+    m_buttonNormalTextColor = color;
+    update();
+}
+
+QColor RColorPickerPopup::ButtonHoverTextColor() const
+{
+    return m_buttonHoverTextColor;
+}
+
+void RColorPickerPopup::SetButtonHoverTextColor(QColor color)
+{
+    m_buttonHoverTextColor = color;
+    update();
+}
+
+QColor RColorPickerPopup::BorderDialogColor() const
+{
+    return m_borderDialogColor;
+}
+
+void RColorPickerPopup::SetBorderDialogColor(QColor color)
+{
+    m_borderDialogColor = color;
+    update();
+}
+
+QColor RColorPickerPopup::BorderButtonColor() const
+{
+    return m_borderButtonColor;
+}
+
+void RColorPickerPopup::SetBorderButtonColor(QColor color)
+{
+    m_borderButtonColor = color;
+    update();
+}
+
+QColor RColorPickerPopup::BorderSmallButtonColor() const
+{
+    return m_borderSmallButtonColor;
+}
+
+void RColorPickerPopup::SetBorderSmallButtonColor(QColor color)
+{
+    m_borderSmallButtonColor = color;
+    update();
+}
+
+void RColorPickerPopup::mousePressEvent(QMouseEvent* event)
+{
+    // A slot may delete the popup, mostly by deleting its picker.
+    const QPointer<RColorPickerPopup> self(this);
+    const QPoint position = event->pos();
+    const QPointF exactPosition = event->localPos();
+
+    if (!rect().contains(position)) {
+        close();
+        if (!self)
+            return;
+        Q_EMIT closed();
+        if (!self)
+            return;
+    }
+
+    const QVector<Cell> cells = m_cells;
+    for (const Cell& cell : cells) {
+        if (!cell.rect.contains(position))
+            continue;
+        choose(cell.color);
+        if (!self)
+            return;
+    }
+
+    if (m_moreRect.contains(exactPosition))
+        chooseInDialog();
+    else if (m_defaultRect.contains(position))
+        choose(m_defaultColor);
+}
+
+void RColorPickerPopup::choose(const QColor& color)
+{
+    const QPointer<RColorPickerPopup> self(this);
+    m_hoverColor = color;
+    Q_EMIT selected(m_hoverColor);
+    if (self)
+        close();
+}
+
+void RColorPickerPopup::chooseInDialog()
+{
+    const QPointer<RColorPickerPopup> self(this);
+    Q_EMIT closed();
+    if (!self)
+        return;
+
+    // On the heap and watched: the picker that owns popup and dialog may be deleted while the dialog is open.
+    const QPointer<QColorDialog> dialog(new QColorDialog(m_hoverColor, parentWidget()));
+    hideSpinBoxButtons(*dialog);
+    styleDialogButtons(*dialog);
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    const QColor color = dialog ? dialog->currentColor() : QColor();
+    const bool dialogSurvived = !dialog.isNull();
+    delete dialog.data();
+    if (!self || !dialogSurvived)
+        return;
+
+    m_hoverColor = color; // also where the dialog was cancelled
+    if (accepted && color.isValid())
+        choose(color);
+}
+
+void RColorPickerPopup::paintEvent(QPaintEvent* event)
+{
+    Q_UNUSED(event)
+    QPainter painter(this);
+    const QPen previousPen = painter.pen();
+    const QBrush previousBrush = painter.brush();
+    paintFrame(painter);
+    paintCells(painter);
+    painter.setBrush(previousBrush);
+    painter.setPen(previousPen);
+
+    const QPointF hoverPoint = mapFromGlobal(QCursor::pos());
+    m_moreRect = buttonRect(moreButtonTop(), width());
+    //: Button that opens a dialog with all colours.
+    paintButton(&painter, m_moreRect, tr("More..."), m_moreRect.contains(hoverPoint));
+    m_defaultRect = buttonRect(defaultButtonTop, width());
+    //: Button that chooses the default colour.
+    paintButton(&painter, m_defaultRect, tr("Default"), m_defaultRect.contains(hoverPoint));
+    paintHoveredCells(painter, hoverPoint);
+}
+
+void RColorPickerPopup::paintFrame(QPainter& painter) const
+{
+    painter.setPen(m_borderDialogColor);
+    painter.drawRect(0, 0, width() - 1, height() - 1);
+}
+
+void RColorPickerPopup::paintCells(QPainter& painter)
+{
+    m_cells.clear();
+    painter.setPen(m_borderSmallButtonColor);
+    for (int i = 0; i < static_cast<int>(Detail::namedPalette.size()); ++i) {
+        const Cell cell{Detail::namedPalette[static_cast<std::size_t>(i)].color(), cellRect(i)};
+        painter.setBrush(cell.color);
+        painter.drawRect(cell.rect);
+        m_cells.append(cell);
+    }
+}
+
+void RColorPickerPopup::paintHoveredCells(QPainter& painter, const QPointF& hoverPoint)
+{
+    for (const Cell& cell : qAsConst(m_cells)) {
+        if (!cell.rect.contains(hoverPoint))
+            continue;
+        m_hoverColor = cell.color;
+        painter.setPen(QPen(QBrush(Qt::blue), 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+        painter.drawRect(cell.rect.adjusted(-hoverMargin, -hoverMargin, hoverMargin, hoverMargin));
+    }
+}
+
+void RColorPickerPopup::hideEvent(QHideEvent* event)
+{
+    const QPointer<RColorPickerPopup> self(this);
+    Q_EMIT closed();
+    if (self)
+        QFrame::hideEvent(event);
+}
+
+} // namespace Kestrel::Gui
