@@ -1,0 +1,53 @@
+#include <KQt/Ui/PenPicker.h>
+
+#include <KQt/Ui/AdvancedColorPicker.h>
+#include <KQt/Ui/LineWidthComboBox.h>
+
+#include <QHBoxLayout>
+#include <QIcon>
+
+#include <algorithm>
+
+namespace Kestrel::Gui {
+
+PenPicker::PenPicker(QWidget* parent)
+    : QFrame(parent)
+    , m_width(new LineWidthComboBox(this))
+    , m_color(new AdvancedColorPicker(this))
+{
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins({});
+    setAttribute(Qt::WA_MouseTracking, true);
+    for (QWidget* child : {static_cast<QWidget*>(m_width), static_cast<QWidget*>(m_color)}) {
+        child->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+        layout->addWidget(child);
+    }
+    connect(m_color, &AdvancedColorPicker::changedColor, this, &PenPicker::penChanged);
+    connect(m_color, &AdvancedColorPicker::doneSelectionWithColor, this, &PenPicker::doneColorSelection);
+
+    constexpr int widths = 5;
+    for (int width = 0; width < widths; ++width)
+        m_width->addItem(QIcon(), QString(), width);
+    connect(m_width, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &PenPicker::penChanged);
+}
+
+PenPicker::~PenPicker() = default;
+
+QPen PenPicker::pen() const
+{
+    const int width = m_width->currentIndex();
+    return QPen(m_color->color(), width, width == 0 ? Qt::NoPen : Qt::SolidLine);
+}
+
+void PenPicker::setPen(QPen pen)
+{
+    m_width->setCurrentIndex(pen.style() == Qt::NoPen ? 0 : std::min(pen.width(), m_width->count() - 1));
+    m_color->setColor(pen.color());
+}
+
+void PenPicker::mouseMoveEvent(QMouseEvent* event)
+{
+    QWidget::mouseMoveEvent(event);
+}
+
+} // namespace Kestrel::Gui
