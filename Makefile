@@ -1,0 +1,19 @@
+# Short names for the usual jobs. Everything that they do can also be done with the presets of CMakePresets.json.
+PREFIX ?= /usr/local
+ARGS ?=
+.PHONY: gallery test check bench docs windows install
+
+gallery: ## build and start the gallery; ARGS="--screenshots DIR" and other options are handed to it
+	@tools/install-dependencies build && tools/build dev kqtui-gallery && build/dev/examples/gallery/kqtui-gallery $(ARGS)
+test: ## release build with warnings as errors, then every test
+	@tools/install-dependencies build test && tools/build release && ctest --preset release
+check: ## everything that a change must pass
+	@.ci/run
+bench: ## every benchmark beside its peers; ARGS are handed to each
+	@tools/install-dependencies build test && tools/build release && tools/run-benchmarks build/release $(ARGS)
+docs: ## the reference in build/release/docs/html
+	@tools/install-dependencies build test docs && tools/build release docs
+windows: ## cross-build for Windows and run its tests under wine
+	@tools/install-dependencies build windows && tools/build-windows-sysroot && tools/build windows && ctest --preset windows
+install: ## install the release build to PREFIX; DESTDIR is respected
+	@tools/install-dependencies build test && tools/build release && cmake --install build/release --prefix "$(PREFIX)"
