@@ -54,22 +54,22 @@ std::string GetCallStack()
 
 namespace {
 
-/// The name of the function around @p address and of its library's file, found in the tables of the loaded libraries.
+/// Names @p address by what the tables of the loaded libraries hold: function and library, or library and offset.
 void writeFrame(std::ostream& out, const void* address)
 {
     Dl_info info = {};
-    if (dladdr(address, &info) == 0) {
+    if (dladdr(address, &info) == 0 || !info.dli_fname) {
         out << address;
         return;
     }
-    if (info.dli_sname)
-        out << boost::core::demangle(info.dli_sname);
-    else
-        out << address;
-    if (info.dli_fname && *info.dli_fname) {
-        // The file's name alone: where a machine keeps its libraries is nobody's business in a message.
-        const char* slash = std::strrchr(info.dli_fname, '/');
-        out << " in " << (slash ? slash + 1 : info.dli_fname);
+    // The file's name alone: where a machine keeps its libraries is nobody's business in a message.
+    const char* slash = std::strrchr(info.dli_fname, '/');
+    const char* library = slash ? slash + 1 : info.dli_fname;
+    if (info.dli_sname) {
+        out << boost::core::demangle(info.dli_sname) << " in " << library;
+    } else {
+        const auto* base = static_cast<const char*>(info.dli_fbase);
+        out << library << "+0x" << std::hex << static_cast<const char*>(address) - base << std::dec;
     }
 }
 
@@ -89,7 +89,8 @@ std::string GetCallStack()
         // A return address may lie behind the end of a function that ends in a call; one byte back it is inside.
         writeFrame(text, static_cast<const char*>(frames[i]) - 1);
     }
-    return count == 0 ? std::string(" 0# ?") : text.str();
+    const std::string result = text.str();
+    return result.empty() ? std::string(" 0# ?") : result;
 }
 
 #endif

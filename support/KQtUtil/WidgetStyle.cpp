@@ -1,5 +1,7 @@
 #include <KQtUtil/WidgetStyle.h>
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QString>
 #include <QStyle>
 #include <QVariant>
@@ -14,7 +16,9 @@ void ApplyWidgetStyle(QWidget* widget, const QString& styleName, const char* pro
     widget->setProperty(propertyName, styleName);
     widget->style()->unpolish(widget);
     widget->style()->polish(widget);
-    widget->update();
+    // Widgets that remember a size hint forget it, and layouts ask for the new one.
+    QEvent change(QEvent::StyleChange);
+    QCoreApplication::sendEvent(widget, &change);
 }
 
 } // namespace Kestrel::Util
