@@ -11,25 +11,32 @@ namespace Kestrel::Gui::Detail {
 
 namespace {
 
-template <typename Exception>
-[[noreturn]] void throwDecorated(const char* message, const char* function, const char* file, int line)
+std::string describe(const char* message, const std::string& callStack)
 {
-    const Exception plain(std::string(message) + '\n' + GetCallStack());
-    // Spelled out instead of BOOST_THROW_EXCEPTION, whose thrown type differs between versions of Boost.
-    throw boost::enable_current_exception(boost::enable_error_info(plain))
-        << boost::throw_function(function) << boost::throw_file(file) << boost::throw_line(line);
+    return std::string(message) + '\n' + callStack;
+}
+
+/// Spelled out instead of BOOST_THROW_EXCEPTION, whose thrown type differs between versions of Boost.
+template <typename Exception>
+auto decorated(const std::string& text, const char* function, const char* file, int line)
+{
+    auto exception = boost::enable_current_exception(boost::enable_error_info(Exception(text)));
+    exception << boost::throw_function(function) << boost::throw_file(file) << boost::throw_line(line);
+    return exception;
 }
 
 } // namespace
 
+// Each takes the call stack itself: its first frame is then a name that a reader can look up.
+
 void throwInvalidArgument(const char* message, const char* function, const char* file, int line)
 {
-    throwDecorated<std::invalid_argument>(message, function, file, line);
+    throw decorated<std::invalid_argument>(describe(message, GetCallStack()), function, file, line);
 }
 
 void throwRuntimeError(const char* message, const char* function, const char* file, int line)
 {
-    throwDecorated<std::runtime_error>(message, function, file, line);
+    throw decorated<std::runtime_error>(describe(message, GetCallStack()), function, file, line);
 }
 
 } // namespace Kestrel::Gui::Detail

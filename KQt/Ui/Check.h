@@ -4,13 +4,16 @@
 
 #include <boost/current_function.hpp>
 
+#include <cstddef>
+
 /// @file
 /// The library's one way of reporting a broken precondition.
 ///
 /// A failed check throws `std::invalid_argument` (an argument, or the context an object stands in) or
-/// `std::runtime_error` (a call of the platform that failed). `what()` is the fixed message, one line feed, and the call
-/// stack at the throw. The exception can also be caught as `boost::exception` and carries Boost's `throw_function`,
-/// `throw_file` and `throw_line` of the detecting function; it supports `boost::current_exception()`.
+/// `std::runtime_error` (a call of the platform that failed). `what()` is the fixed message, one line feed, and the
+/// call stack at the throw, innermost frame first. The exception can also be caught as `boost::exception` and carries
+/// Boost's `throw_function`, `throw_file` and `throw_line` of the detecting function; it supports
+/// `boost::current_exception()`.
 ///
 /// Check before the first side effect: what throws must leave no filter and no connection behind.
 
@@ -22,27 +25,50 @@
 #define KQTUI_THROW_RUNTIME_ERROR(message)                                                                             \
     ::Kestrel::Gui::Detail::throwRuntimeError(message, BOOST_CURRENT_FUNCTION, KQTUI_SOURCE_FILE, __LINE__)
 
-/// The current source file as the library names it: from "KQt/Ui/" on, wherever the header or source lies.
-#define KQTUI_SOURCE_FILE ::Kestrel::Gui::Detail::librarySourcePath(__FILE__)
+/// The current source file as the library names it: from "KQt/Ui/" on with forward slashes, wherever the file lies and
+/// however the compiler was handed its path. A `const char*` that is valid for ever.
+// The lambda is evaluated at compile time, so that no binary holds the path that was left out.
+#define KQTUI_SOURCE_FILE                                                                                              \
+    ([]() -> const char* {                                                                                             \
+        static constexpr auto path = ::Kestrel::Gui::Detail::librarySourcePath(__FILE__);                              \
+        return path.text;                                                                                              \
+    }())
 
 namespace Kestrel::Gui::Detail {
 
-/// @p path from its last "KQt/Ui/" on; the whole of it where it holds none.
-constexpr const char* librarySourcePath(const char* path)
+/// The text that librarySourcePath() makes, as long as the path it was made of.
+template <std::size_t Size>
+struct SourcePath
+{
+    char text[Size] = {};
+};
+
+/// Where in @p path the last component pair "KQt/Ui/" begins, with either separator; 0 where there is none.
+template <std::size_t Size>
+constexpr std::size_t libraryRootIn(const char (&path)[Size])
 {
     constexpr char root[] = "KQt/Ui/";
-    const char* result = path;
-    for (const char* start = path; *start; ++start) {
-        const char* at = start;
-        const char* expected = root;
-        // Windows compilers write either separator.
-        while (*expected && (*at == *expected || (*expected == '/' && *at == '\\'))) {
-            ++at;
-            ++expected;
-        }
-        if (!*expected)
-            result = start;
+    constexpr std::size_t rootLength = sizeof(root) - 1;
+    for (std::size_t start = Size; start-- > 0;) {
+        const bool beginsComponent = start == 0 || path[start - 1] == '/' || path[start - 1] == '\\';
+        std::size_t matching = 0;
+        while (matching < rootLength && start + matching < Size &&
+               (path[start + matching] == root[matching] || (root[matching] == '/' && path[start + matching] == '\\')))
+            ++matching;
+        if (beginsComponent && matching == rootLength)
+            return start;
     }
+    return 0;
+}
+
+/// @p path from its last "KQt/Ui/" on, the whole of it where it holds none, with forward slashes.
+template <std::size_t Size>
+constexpr SourcePath<Size> librarySourcePath(const char (&path)[Size])
+{
+    SourcePath<Size> result;
+    std::size_t end = 0;
+    for (std::size_t i = libraryRootIn(path); i < Size; ++i)
+        result.text[end++] = path[i] == '\\' ? '/' : path[i];
     return result;
 }
 
