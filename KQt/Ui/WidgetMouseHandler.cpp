@@ -29,7 +29,9 @@ bool WidgetMouseHandler::eventFilter(QObject* watched, QEvent* event)
     if (watched != parent())
         return QObject::eventFilter(watched, event);
 
-    const QPointer<WidgetMouseHandler> self(this);
+    // Slots may change the flag, which is for the events that follow, and delete the handler or its widget.
+    const bool propagate = m_propagateEvents;
+    const QPointer<QObject> widget(watched);
     switch (event->type()) {
     case QEvent::MouseButtonPress:
         Q_EMIT MouseButtonPressed(static_cast<QMouseEvent*>(event));
@@ -59,11 +61,10 @@ bool WidgetMouseHandler::eventFilter(QObject* watched, QEvent* event)
         return QObject::eventFilter(watched, event);
     }
 
-    // A slot may have deleted the handler, alone or with its widget. The event then ends here.
-    if (!self)
-        return true;
-    event->setAccepted(!m_propagateEvents);
-    return !m_propagateEvents;
+    // A deleted widget receives nothing any more. Accepted, for Qt asks the receiver of a consumed event that is not.
+    const bool swallow = !propagate || !widget;
+    event->setAccepted(swallow);
+    return swallow;
 }
 
 } // namespace Kestrel::Gui

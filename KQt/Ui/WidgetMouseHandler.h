@@ -14,9 +14,10 @@ namespace Kestrel::Gui {
 
 /// Turns the mouse, enter, leave and hover events of one widget into signals.
 ///
-/// The handler is a child of the widget that it watches and dies with it. A signal is emitted before the widget sees the
-/// event; afterwards the event goes on to the widget (marked ignored), or is swallowed (marked accepted) where
-/// propagation is off. Installed on other objects too, the handler lets their events pass untouched.
+/// The handler is a child of the widget that it watches and dies with it. A signal is emitted before the widget sees
+/// the event; afterwards the event goes on to the widget (marked ignored), or is swallowed (marked accepted) where
+/// propagation is off. Installed on other objects too, the handler lets their events pass untouched. A slot may delete
+/// the handler or, as far as Qt itself bears it, the widget.
 ///
 /// Hover signals need Qt::WA_Hover on the widget and MouseMoved() needs mouse tracking or a held button; the handler
 /// sets neither.
@@ -30,17 +31,20 @@ public:
     explicit WidgetMouseHandler(QWidget* parent);
     ~WidgetMouseHandler() override;
 
-    /// Whether the widget still receives the events that became signals; on by default, in force from the next event.
+    /// Whether the widget still receives the events that became signals; on by default. In force from the next event:
+    /// called from a slot of this class, it leaves the event that is being reported alone.
     void EnableEventPropagation(bool enable);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    // The event pointers are the delivered events themselves, valid during the call only.
+    /// Each follows the widget's event of the same kind, before the widget itself receives it. @p event is that event,
+    /// valid during the call only; whether it is accepted is decided after the signal.
     void MouseButtonPressed(QMouseEvent* event);
     void MouseButtonReleased(QMouseEvent* event);
     void MouseMoved(QMouseEvent* event);
     void MouseEntered();
+    /// The misspelt names are the interface.
     void MouseLeaved();
     void MouseHoverMoved(QHoverEvent* event);
     void MouseHoverEntered(QHoverEvent* event);
