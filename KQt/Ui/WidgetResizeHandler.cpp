@@ -2,6 +2,7 @@
 
 #include <KQt/Ui/Check.h>
 
+#include <QPointer>
 #include <QResizeEvent>
 #include <QWidget>
 
@@ -19,15 +20,20 @@ WidgetResizeHandler::~WidgetResizeHandler() = default;
 
 bool WidgetResizeHandler::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Resize) {
+    const QEvent::Type type = event->type();
+    if (type != QEvent::Resize && type != QEvent::Show)
+        return false;
+
+    const QPointer<QObject> receiver(watched);
+    if (type == QEvent::Resize) {
         const auto* resize = static_cast<QResizeEvent*>(event);
         Q_EMIT Resized(resize->oldSize(), resize->size());
-    } else if (event->type() == QEvent::Show) {
+    } else if (const auto* widget = qobject_cast<QWidget*>(watched)) {
         // The frame size on purpose, unlike the client sizes of a resize.
-        if (const auto* widget = qobject_cast<QWidget*>(watched))
-            Q_EMIT Resized(widget->frameSize(), widget->frameSize());
+        Q_EMIT Resized(widget->frameSize(), widget->frameSize());
     }
-    return false;
+    // Never consumed, but for an object that a slot has deleted: nobody is left to receive the event.
+    return watched && !receiver;
 }
 
 } // namespace Kestrel::Gui
