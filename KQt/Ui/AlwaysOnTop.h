@@ -15,22 +15,29 @@ namespace Kestrel::Gui::Helpers {
 /// A base class that switches the stay-on-top state of a window through a getter and a setter of its window flags.
 ///
 /// The flags are read anew at each call, so changes made by others are seen, and are written only where the state
-/// changes: writing a widget's flags re-creates and hides its window. Copies act on the same window.
+/// changes: writing a widget's flags re-creates and hides its window. Copies act on the same window. For derived
+/// classes only; nothing is owned.
 class KQTUI_EXPORT AlwaysOnTop
 {
 public:
     AlwaysOnTop(const AlwaysOnTop& other);
     AlwaysOnTop& operator=(const AlwaysOnTop& other);
 
+    /// Whether the flags contain Qt::WindowStaysOnTopHint now. All four functions throw std::bad_function_call where
+    /// they come to call a function that the helper got empty.
     bool IsAlwaysOnTop() const;
-    /// @throws std::bad_function_call where the helper was built from an empty function; so do the others.
+    /// Adds the hint; the setter is not called where the flags contain it already. The misspelt names are the
+    /// interface.
     void EnableAlswaysOnTop();
+    /// Removes the hint; the setter is not called where the flags do not contain it.
     void DisableAlswaysOnTop();
+    /// Either of the two above.
     void SetAlwaysOnTop(bool alwaysOnTop);
 
 protected:
     /// Works on the flags of @p widget, which must outlive the helper and all copies of it.
     explicit AlwaysOnTop(QWidget& widget);
+    /// Works on whatever @p flagsGetter reads and @p flagsSetter writes.
     AlwaysOnTop(std::function<Qt::WindowFlags()> flagsGetter, std::function<void(Qt::WindowFlags)> flagsSetter);
     virtual ~AlwaysOnTop();
 
