@@ -258,10 +258,10 @@ void tst_Check::sourcePathStartsAtTheLibrary_data()
     row("relative", "../../KQt/Ui/Check.cpp", "KQt/Ui/Check.cpp");
     row("nested", "/usr/include/KQt/Ui/SelectionFrameWidget/SelectionFrameGraphicsItem.h",
         "KQt/Ui/SelectionFrameWidget/SelectionFrameGraphicsItem.h");
-    row("Windows", "C:\\src\\kqtui\\KQt\\Ui\\Platforms\\win\\StandardDialogs.cpp",
+    row("Windows", R"(C:\src\kqtui\KQt\Ui\Platforms\win\StandardDialogs.cpp)",
         "KQt/Ui/Platforms/win/StandardDialogs.cpp");
-    row("Windows, mixed", "C:\\src/kqtui\\KQt/Ui\\Check.cpp", "KQt/Ui/Check.cpp");
-    row("Windows, relative", "..\\..\\KQt\\Ui\\Check.cpp", "KQt/Ui/Check.cpp");
+    row("Windows, mixed", R"(C:\src/kqtui\KQt/Ui\Check.cpp)", "KQt/Ui/Check.cpp");
+    row("Windows, relative", R"(..\..\KQt\Ui\Check.cpp)", "KQt/Ui/Check.cpp");
     row("checked out below a folder of the same name", "/work/KQt/Ui/build/../KQt/Ui/Check.cpp", "KQt/Ui/Check.cpp");
     row("a folder that only ends alike", "/work/myKQt/Ui/tests/tst.cpp", "/work/myKQt/Ui/tests/tst.cpp");
     row("a test", "tests/tst_Check.cpp", "tests/tst_Check.cpp");
@@ -287,10 +287,10 @@ void tst_Check::sourcePathIsAConstant()
 
 void tst_Check::noPathOfTheBuildMachine()
 {
-    const QRegularExpression absolute(QStringLiteral("(^|[\\s(\"])(/|[A-Za-z]:[\\\\/])\\w"),
+    const QRegularExpression absolute(QStringLiteral(R"x((^|[\s("])(/|[A-Za-z]:[\\/])\w)x"),
                                       QRegularExpression::MultilineOption);
     QVERIFY(absolute.match(QStringLiteral(" 0# main in /usr/bin/x")).hasMatch());
-    QVERIFY(absolute.match(QStringLiteral("at C:\\x")).hasMatch());
+    QVERIFY(absolute.match(QStringLiteral(R"(at C:\x)")).hasMatch());
     for (const auto check : {failArgument, failPlatform, refuseNullWidget, refuseNullObject}) {
         try {
             check();
