@@ -1,4 +1,13 @@
+#include <KQt/Ui/AdvancedColorPicker.h>
+#include <KQt/Ui/AdvancedColorPickerPopup.h>
+#include <KQt/Ui/ColorPickerOpacityAdapter.h>
+#include <KQt/Ui/CustomSliderWithZeroTick.h>
 #include <KQt/Ui/DisableDragAndDropEventFilter.h>
+#include <KQt/Ui/LineStyleComboBox.h>
+#include <KQt/Ui/LineWidthComboBox.h>
+#include <KQt/Ui/PenPicker.h>
+#include <KQt/Ui/RColorPicker.h>
+#include <KQt/Ui/RColorPickerPopup.h>
 #include <KQt/Ui/WidgetMouseHandler.h>
 #include <KQt/Ui/WidgetResizeHandler.h>
 
@@ -23,9 +32,19 @@ void tst_Conventions::metaObjectHasTheQualifiedName_data()
     const auto row = [](const char* name, const QMetaObject& metaObject) { QTest::newRow(name) << &metaObject; };
 
     using namespace Kestrel::Gui;
+    row("Kestrel::Gui::AdvancedColorPicker", AdvancedColorPicker::staticMetaObject);
+    row("Kestrel::Gui::AdvancedColorPickerPopup", AdvancedColorPickerPopup::staticMetaObject);
+    row("Kestrel::Gui::ColorPickerOpacityAdapter", ColorPickerOpacityAdapter::staticMetaObject);
     row("Kestrel::Gui::DisableDragAndDropEventFilter", DisableDragAndDropEventFilter::staticMetaObject);
+    row("Kestrel::Gui::LineStyleComboBox", LineStyleComboBox::staticMetaObject);
+    row("Kestrel::Gui::LineWidthComboBox", LineWidthComboBox::staticMetaObject);
+    row("Kestrel::Gui::PenPicker", PenPicker::staticMetaObject);
+    row("Kestrel::Gui::RColorPicker", RColorPicker::staticMetaObject);
+    row("Kestrel::Gui::RColorPickerPopup", RColorPickerPopup::staticMetaObject);
     row("Kestrel::Gui::WidgetMouseHandler", WidgetMouseHandler::staticMetaObject);
     row("Kestrel::Gui::WidgetResizeHandler", WidgetResizeHandler::staticMetaObject);
+    // The one class that lives outside the namespace.
+    row("CustomSliderWithZeroTick", CustomSliderWithZeroTick::staticMetaObject);
 }
 
 void tst_Conventions::metaObjectHasTheQualifiedName()

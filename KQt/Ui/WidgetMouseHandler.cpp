@@ -9,6 +9,27 @@
 
 namespace Kestrel::Gui {
 
+namespace {
+
+bool isReported(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove:
+    case QEvent::Enter:
+    case QEvent::Leave:
+    case QEvent::HoverMove:
+    case QEvent::HoverEnter:
+    case QEvent::HoverLeave:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
 WidgetMouseHandler::WidgetMouseHandler(QWidget* parent)
     : QObject(parent)
 {
@@ -26,12 +47,22 @@ void WidgetMouseHandler::EnableEventPropagation(bool enable)
 
 bool WidgetMouseHandler::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched != parent())
+    // By type first: of all that a widget receives, hardly anything is reported.
+    if (!isReported(event->type()) || watched != parent())
         return QObject::eventFilter(watched, event);
 
     // Slots may change the flag, which is for the events that follow, and delete the handler or its widget.
     const bool propagate = m_propagateEvents;
     const QPointer<QObject> widget(watched);
+    report(event);
+    // A deleted widget receives nothing any more. Accepted, for Qt asks the receiver of a consumed event that is not.
+    const bool swallow = !propagate || !widget;
+    event->setAccepted(swallow);
+    return swallow;
+}
+
+void WidgetMouseHandler::report(QEvent* event)
+{
     switch (event->type()) {
     case QEvent::MouseButtonPress:
         Q_EMIT MouseButtonPressed(static_cast<QMouseEvent*>(event));
@@ -58,13 +89,8 @@ bool WidgetMouseHandler::eventFilter(QObject* watched, QEvent* event)
         Q_EMIT MouseHoverLeaved(static_cast<QHoverEvent*>(event));
         break;
     default:
-        return QObject::eventFilter(watched, event);
+        break;
     }
-
-    // A deleted widget receives nothing any more. Accepted, for Qt asks the receiver of a consumed event that is not.
-    const bool swallow = !propagate || !widget;
-    event->setAccepted(swallow);
-    return swallow;
 }
 
 } // namespace Kestrel::Gui

@@ -51,6 +51,9 @@ Q_SIGNALS:
     void MouseHoverLeaved(QHoverEvent* event);
 
 private:
+    /// Emits the signal of @p event, which is one of the eight.
+    void report(QEvent* event);
+
     bool m_propagateEvents = true;
 };
 
