@@ -137,8 +137,8 @@
         <translation>ال&amp;لغة</translation>
     </message>
     <message>
-        <source>Language</source>
-        <translation>اللغة</translation>
+        <source>Language: %1</source>
+        <translation>اللغة: %1</translation>
     </message>
 </context>
 <context>

@@ -137,8 +137,8 @@
         <translation>&amp;Sprache</translation>
     </message>
     <message>
-        <source>Language</source>
-        <translation>Sprache</translation>
+        <source>Language: %1</source>
+        <translation>Sprache: %1</translation>
     </message>
 </context>
 <context>

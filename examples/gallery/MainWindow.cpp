@@ -127,7 +127,7 @@ void MainWindow::setTexts()
     m_fileMenu->setTitle(tr("&File"));
     m_viewMenu->setTitle(tr("&View"));
     m_languageMenu->setTitle(tr("&Language"));
-    m_languageButton->setText(tr("Language"));
+    m_languageButton->setText(tr("Language: %1").arg(m_languages->checkedAction()->text()));
 
     QStringList titles;
     for (const PageRegistration& page : registeredPages())

@@ -16,6 +16,7 @@ namespace Gallery {
 
 Page::Page(const QString& introduction, QWidget* parent)
     : QWidget(parent)
+    , m_stageFrame(new QFrame)
     , m_stage(new QVBoxLayout)
     , m_controls(new QFormLayout)
     , m_log(new SignalLog)
@@ -38,12 +39,11 @@ Page::Page(const QString& introduction, QWidget* parent)
 QWidget* Page::createUpperHalf()
 {
     constexpr int stageMargin = 16;
-    auto* stageFrame = new QFrame;
-    stageFrame->setFrameShape(QFrame::StyledPanel);
-    stageFrame->setBackgroundRole(QPalette::Base);
-    stageFrame->setAutoFillBackground(true);
+    m_stageFrame->setFrameShape(QFrame::StyledPanel);
+    m_stageFrame->setBackgroundRole(QPalette::Base);
+    m_stageFrame->setAutoFillBackground(true);
     m_stage->setContentsMargins(stageMargin, stageMargin, stageMargin, stageMargin);
-    stageFrame->setLayout(m_stage);
+    m_stageFrame->setLayout(m_stage);
 
     auto* controlsBox = new QGroupBox(tr("Properties"));
     controlsBox->setLayout(m_controls);
@@ -51,7 +51,7 @@ QWidget* Page::createUpperHalf()
     auto* half = new QWidget;
     auto* layout = new QHBoxLayout(half);
     layout->setContentsMargins({});
-    layout->addWidget(stageFrame, 1);
+    layout->addWidget(m_stageFrame, 1);
     layout->addWidget(controlsBox);
     return half;
 }

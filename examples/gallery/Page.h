@@ -7,6 +7,7 @@
 
 QT_BEGIN_NAMESPACE
 class QFormLayout;
+class QFrame;
 class QVBoxLayout;
 QT_END_NAMESPACE
 
@@ -37,6 +38,9 @@ public:
     /// What the page can open; none by default. The gallery closes what it opened.
     virtual std::vector<Popup> popups();
 
+    /// What holds the stage, for those who look at the page from outside.
+    QFrame* stageFrame() const { return m_stageFrame; }
+
 protected:
     QVBoxLayout* stage() const { return m_stage; }
     QFormLayout* controls() const { return m_controls; }
@@ -51,6 +55,7 @@ private:
     QWidget* createUpperHalf();
     QWidget* createLogBox();
 
+    QFrame* m_stageFrame;
     QVBoxLayout* m_stage;
     QFormLayout* m_controls;
     SignalLog* m_log;

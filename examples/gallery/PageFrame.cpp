@@ -27,4 +27,10 @@ PageFrame::PageFrame(const PageRegistration& registration, QWidget* parent)
     layout->addWidget(m_page, 1);
 }
 
+// Hidden first: what the components signal when they vanish, as that the mouse leaves them, still finds the whole page.
+PageFrame::~PageFrame()
+{
+    hide();
+}
+
 } // namespace Gallery

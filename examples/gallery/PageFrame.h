@@ -14,6 +14,7 @@ class PageFrame : public QWidget
 
 public:
     explicit PageFrame(const PageRegistration& registration, QWidget* parent = nullptr);
+    ~PageFrame() override;
 
     Page* page() const { return m_page; }
 

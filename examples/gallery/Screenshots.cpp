@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QFrame>
 #include <QImage>
 #include <QPixmap>
 #include <QPointer>
@@ -31,6 +32,8 @@ void waitUntilShown(const QPointer<QWidget>& widget)
 
 bool isOfOneColor(const QImage& picture)
 {
+    if (picture.isNull())
+        return true;
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
             if (picture.pixel(x, y) != picture.pixel(0, 0))
@@ -49,15 +52,14 @@ Screenshots::Screenshots(const QString& folder)
         fail(QStringLiteral("can't make the folder %1").arg(QDir::toNativeSeparators(folder)));
 }
 
-bool Screenshots::write(const QString& onlyPage)
+void Screenshots::write(const QString& onlyPage)
 {
     if (!m_ok)
-        return false;
+        return;
     for (const PageRegistration& registration : registeredPages()) {
         if (onlyPage.isEmpty() || registration.slug() == onlyPage)
             writePage(registration);
     }
-    return m_ok;
 }
 
 void Screenshots::writePage(const PageRegistration& registration)
@@ -68,7 +70,27 @@ void Screenshots::writePage(const PageRegistration& registration)
     frame.show();
     waitUntilShown(&frame);
     writePicture(frame, registration.slug());
+    checkStage(*frame.page(), registration.slug());
     writePopups(*frame.page(), registration.slug());
+}
+
+void Screenshots::writeWindow(QWidget& window)
+{
+    if (!m_ok)
+        return;
+    window.show();
+    waitUntilShown(&window);
+    writePicture(window, QStringLiteral("window"));
+}
+
+// A page always shows its title and its log; the stage is where it shows that it lives.
+void Screenshots::checkStage(const Page& page, const QString& pageSlug)
+{
+    QFrame& stage = *page.stageFrame();
+    const int border = stage.frameWidth();
+    const QRect inside = stage.rect().adjusted(border, border, -border, -border);
+    if (isOfOneColor(stage.grab(inside).toImage()))
+        fail(QStringLiteral("the stage of %1 is empty").arg(pageSlug));
 }
 
 void Screenshots::writePopups(Page& page, const QString& pageSlug)

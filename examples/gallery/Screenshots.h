@@ -22,11 +22,17 @@ public:
     explicit Screenshots(const QString& folder);
 
     /// Each page, or the one whose slug is @p onlyPage, with its popups.
-    /// @returns whether every picture was written and shows something.
-    bool write(const QString& onlyPage = {});
+    void write(const QString& onlyPage = {});
+
+    /// The gallery's whole window, as "window.png".
+    void writeWindow(QWidget& window);
+
+    /// Whether every picture so far was written and shows something.
+    bool ok() const { return m_ok; }
 
 private:
     void writePage(const PageRegistration& registration);
+    void checkStage(const Page& page, const QString& pageSlug);
     void writePopups(Page& page, const QString& pageSlug);
     void writePicture(QWidget& widget, const QString& name);
     void fail(const QString& reason);

@@ -45,25 +45,32 @@ int refuse(const CommandLine& commandLine)
     return WrongUsage;
 }
 
-int showWindow(const Options& options, LanguageSwitch& language)
+void present(MainWindow& window, const Options& options)
 {
-    MainWindow window(language);
     window.setScheme(options.scheme);
     window.setLanguage(options.language);
     if (options.rightToLeft)
         window.setRightToLeft(true);
     window.showPage(options.page);
+}
+
+int showWindow(const Options& options, LanguageSwitch& language)
+{
+    MainWindow window(language);
+    present(window, options);
     window.show();
     return QApplication::exec();
 }
 
 int renderPages(const Options& options, LanguageSwitch& language, const QString& folder)
 {
-    applyScheme(options.scheme);
-    language.use(options.language);
-    if (options.rightToLeft)
-        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
-    return Screenshots(folder).write(options.page) ? Success : Failure;
+    MainWindow window(language);
+    present(window, options);
+    Screenshots screenshots(folder);
+    screenshots.write(options.page);
+    if (options.page.isEmpty())
+        screenshots.writeWindow(window);
+    return screenshots.ok() ? Success : Failure;
 }
 
 int run(const Options& options)
