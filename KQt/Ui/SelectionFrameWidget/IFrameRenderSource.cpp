@@ -1,0 +1,7 @@
+#include <KQt/Ui/SelectionFrameWidget/IFrameRenderSource.h>
+
+namespace Kestrel::Gui {
+
+IFrameRenderSource::~IFrameRenderSource() = default;
+
+} // namespace Kestrel::Gui
