@@ -1,7 +1,6 @@
 # Translations are compiled by the build machine's lrelease, also where the library is built for another system. Without
 # one everything is built all the same, with English texts only.
 find_program(KQTUI_LRELEASE NAMES lrelease lrelease-qt5 HINTS /usr/lib/qt5/bin NO_CMAKE_FIND_ROOT_PATH)
-find_program(KQTUI_LUPDATE NAMES lupdate lupdate-qt5 HINTS /usr/lib/qt5/bin NO_CMAKE_FIND_ROOT_PATH)
 
 # kqtui_compile_translations(<variable> <file.ts>...)
 # Sets the variable to the list of .qm files that the build makes of them; empty where lrelease is missing.
@@ -9,6 +8,7 @@ function(kqtui_compile_translations variable)
   set(compiled)
   if(KQTUI_LRELEASE)
     foreach(ts IN LISTS ARGN)
+      get_filename_component(ts ${ts} ABSOLUTE)
       get_filename_component(name ${ts} NAME_WE)
       set(qm ${CMAKE_CURRENT_BINARY_DIR}/${name}.qm)
       add_custom_command(OUTPUT ${qm}

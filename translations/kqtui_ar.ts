@@ -12,4 +12,33 @@
         <translation>العتامة</translation>
     </message>
 </context>
+<context>
+    <name>Kestrel::Gui::LineWidthComboBox</name>
+    <message>
+        <source>none</source>
+        <extracomment>Shown instead of a sample line where the line width is zero.</extracomment>
+        <translation type="unfinished">بلا</translation>
+    </message>
+</context>
+<context>
+    <name>Kestrel::Gui::LineWidthDelegate</name>
+    <message>
+        <source>none</source>
+        <extracomment>Shown instead of a sample line where the line width is zero.</extracomment>
+        <translation type="unfinished">بلا</translation>
+    </message>
+</context>
+<context>
+    <name>Kestrel::Gui::RColorPickerPopup</name>
+    <message>
+        <source>More...</source>
+        <extracomment>Button that opens a dialog with all colours.</extracomment>
+        <translation type="unfinished">المزيد...</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <extracomment>Button that chooses the default colour.</extracomment>
+        <translation type="unfinished">افتراضي</translation>
+    </message>
+</context>
 </TS>

@@ -12,4 +12,33 @@
         <translation>DECKKRAFT</translation>
     </message>
 </context>
+<context>
+    <name>Kestrel::Gui::LineWidthComboBox</name>
+    <message>
+        <source>none</source>
+        <extracomment>Shown instead of a sample line where the line width is zero.</extracomment>
+        <translation type="unfinished">keine</translation>
+    </message>
+</context>
+<context>
+    <name>Kestrel::Gui::LineWidthDelegate</name>
+    <message>
+        <source>none</source>
+        <extracomment>Shown instead of a sample line where the line width is zero.</extracomment>
+        <translation type="unfinished">keine</translation>
+    </message>
+</context>
+<context>
+    <name>Kestrel::Gui::RColorPickerPopup</name>
+    <message>
+        <source>More...</source>
+        <extracomment>Button that opens a dialog with all colours.</extracomment>
+        <translation type="unfinished">Mehr ...</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <extracomment>Button that chooses the default colour.</extracomment>
+        <translation type="unfinished">Standard</translation>
+    </message>
+</context>
 </TS>
