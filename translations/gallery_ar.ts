@@ -11,6 +11,14 @@
         <source>Advanced colour picker</source>
         <translation>منتقي الألوان المتقدم</translation>
     </message>
+    <message>
+        <source>Named palette</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pens and lines</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -142,6 +150,41 @@
     </message>
 </context>
 <context>
+    <name>Gallery::NamedPalettePage</name>
+    <message>
+        <source>Click the button: a default colour, forty named colours, and a dialog behind &quot;More...&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>While its popup is open the picker&apos;s property &quot;pressed&quot; is true: the page&apos;s style sheet gives it a thick border then.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colorized</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark popup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation type="unfinished">مُفعّل</translation>
+    </message>
+    <message>
+        <source>Make it the default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The popup&apos;s &quot;Default&quot; button chooses this colour from now on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Gallery::Page</name>
     <message>
         <source>Properties</source>
@@ -165,6 +208,53 @@
     <message>
         <source>Pages</source>
         <translation>الصفحات</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::PensAndLinesPage</name>
+    <message>
+        <source>Pens, lines and opacity: each group draws what its boxes say.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pen picker</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line style and line width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opacity adapter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slider with a zero tick</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Coloured tick</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation type="unfinished">مُفعّل</translation>
     </message>
 </context>
 <context>

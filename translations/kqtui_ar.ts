@@ -41,4 +41,11 @@
         <translation type="unfinished">افتراضي</translation>
     </message>
 </context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Left: %1# Top: %2# Width: %3# Height: %4#</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
 </TS>

@@ -1,0 +1,17 @@
+# The code in the README is the example that the build compiles.
+file(READ ${CMAKE_CURRENT_LIST_DIR}/../README.md readme)
+file(READ ${CMAKE_CURRENT_LIST_DIR}/../examples/picker/main.cpp example)
+string(FIND "${readme}" "```cpp\n${example}```" at)
+if(at EQUAL -1)
+  message(FATAL_ERROR "README.md does not show examples/picker/main.cpp as it is")
+endif()
+# Brackets would join the items of a list.
+string(REPLACE "](" "@link(" text "${readme}")
+string(REPLACE "[" "" text "${text}")
+string(REGEX MATCHALL "@link\\([^) ]+\\)|src=\"[^\"]+\"" links "${text}")
+foreach(link IN LISTS links)
+  string(REGEX REPLACE "^@link\\(|\\)$|^src=\"|\"$" "" file "${link}")
+  if(NOT EXISTS ${CMAKE_CURRENT_LIST_DIR}/../${file})
+    message(FATAL_ERROR "README.md names ${file}, which is not there")
+  endif()
+endforeach()
