@@ -2,6 +2,7 @@
 
 #include <KQt/Ui/AdvancedColorPalette.h>
 #include <KQt/Ui/AdvancedColorPickerPopupForm.h>
+#include <KQt/Ui/FixedSizeItem.h>
 #include <KQt/Ui/PickerButton.h>
 #include <KQt/Ui/PickerButtonDragFilter.h>
 #include <KQt/Ui/PickerButtonDropFilter.h>
@@ -26,6 +27,23 @@ constexpr int PaletteSwatchSize = 20;
 constexpr int UserSlotSize = 18;
 constexpr int UserSlotCount = 12;
 constexpr double FullOpacity = 100.0;
+
+/// Keeps from a swatch that it gets the popup's style sheet together with its parent.
+///
+/// A tool button answers by asking the style for its popup delay and its margins in a layout, and so has all rules of
+/// the sheet matched. A swatch has neither, and is polished under the sheet when it is shown, once.
+class StyleChangeFilter final : public QObject
+{
+public:
+    bool eventFilter(QObject*, QEvent* event) override { return event->type() == QEvent::StyleChange; }
+};
+
+void setParentUnderStyleSheet(PickerButton* swatch, QWidget* parent)
+{
+    StyleChangeFilter filter;
+    swatch->installEventFilter(&filter);
+    swatch->setParent(parent);
+}
 
 int opacityPercentage(const QColor& color)
 {
@@ -122,9 +140,10 @@ void AdvancedColorPickerPopup::createPalette()
     for (int row = 0; row < AdvancedColorPaletteRows; ++row) {
         for (int column = 0; column < AdvancedColorPaletteColumns; ++column) {
             auto* const swatch = new PickerButton(AdvancedColorPalette.at(row * AdvancedColorPaletteColumns + column));
+            setParentUnderStyleSheet(swatch, m_form->colorButtonsFrame);
             m_colorButtons->addButton(swatch);
             swatch->setFixedSize(PaletteSwatchSize, PaletteSwatchSize);
-            m_form->colorButtonsLayout->addWidget(swatch, row, column);
+            m_form->colorButtonsLayout->addItem(new FixedSizeItem(swatch), row, column);
             swatch->installEventFilter(dragFilter);
         }
     }
@@ -135,9 +154,10 @@ void AdvancedColorPickerPopup::createUserSlots()
     auto* const dropFilter = new PickerButtonDropFilter(this);
     for (const QColor& color : qAsConst(m_userGeneratedColors)) {
         auto* const slot = new PickerButton(color);
+        setParentUnderStyleSheet(slot, m_form->userSelectedColorsFrame);
         m_colorButtons->addButton(slot);
         slot->setFixedSize(UserSlotSize, UserSlotSize);
-        m_form->userSelectedColors->addWidget(slot);
+        m_form->userSelectedColors->addItem(new FixedSizeItem(slot));
         m_userColorButtons.append(slot);
         slot->setAcceptDrops(true);
         slot->installEventFilter(dropFilter);
@@ -246,11 +266,14 @@ void AdvancedColorPickerPopup::updateColorEdit()
 
 void AdvancedColorPickerPopup::updateColorIndicator()
 {
-    m_form->colorIndicator->setStyleSheet(QStringLiteral("background-color: rgba(%1, %2, %3, %4)")
-                                              .arg(m_color.red())
-                                              .arg(m_color.green())
-                                              .arg(m_color.blue())
-                                              .arg(m_color.alpha()));
+    const QString styleSheet = QStringLiteral("background-color: rgba(%1, %2, %3, %4)")
+                                   .arg(m_color.red())
+                                   .arg(m_color.green())
+                                   .arg(m_color.blue())
+                                   .arg(m_color.alpha());
+    // Setting a style sheet polishes the label again, even where it is the same one.
+    if (styleSheet != m_form->colorIndicator->styleSheet())
+        m_form->colorIndicator->setStyleSheet(styleSheet);
 }
 
 void AdvancedColorPickerPopup::updateColoredWidgets()

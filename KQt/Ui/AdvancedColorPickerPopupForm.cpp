@@ -1,6 +1,7 @@
 #include <KQt/Ui/AdvancedColorPickerPopupForm.h>
 
 #include <KQt/Ui/AdvancedColorPickerPopupStyleSheet.h>
+#include <KQt/Ui/FixedSizeItem.h>
 
 #include <QCoreApplication>
 #include <QFrame>
@@ -29,6 +30,11 @@ AdvancedColorPickerPopupForm::AdvancedColorPickerPopupForm(QFrame* popup)
     popup->setObjectName(QStringLiteral("AdvancedColorPickerPopup"));
     popup->setWindowTitle(QString());
     popup->setLineWidth(0);
+    popup->setStyleSheet(AdvancedColorPickerPopupStyleSheet());
+    // Polishing goes down to the children that are there. Widgets are polished before they get children, so that each
+    // child is polished by itself: those with a size hint below, swatches and indicator when they are shown. The
+    // indicator then has its colour already; a style sheet that comes later would polish it again.
+    popup->ensurePolished();
 
     gridLayout_2 = named(new QGridLayout(popup), "gridLayout_2");
     gridLayout_2->setSpacing(6);
@@ -39,7 +45,9 @@ AdvancedColorPickerPopupForm::AdvancedColorPickerPopupForm(QFrame* popup)
     colorIndicator->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     colorIndicator->setMinimumSize(27, 28);
     colorIndicator->setMaximumSize(27, 28);
-    horizontalLayout->addWidget(colorIndicator);
+    horizontalLayout->addItem(new FixedSizeItem(colorIndicator));
+    // Nor may it be polished from the event loop before the popup is shown for the first time.
+    QCoreApplication::removePostedEvents(colorIndicator, QEvent::PolishRequest);
 
     colorEdit = named(new QLineEdit(popup), "colorEdit");
     colorEdit->setMaximumWidth(70);
@@ -58,6 +66,7 @@ AdvancedColorPickerPopupForm::AdvancedColorPickerPopupForm(QFrame* popup)
     gridLayout_2->addLayout(horizontalLayout, 0, 0, 1, 2);
 
     userSelectedColorsFrame = named(new QFrame(popup), "userSelectedColorsFrame");
+    userSelectedColorsFrame->ensurePolished();
     userSelectedColors = named(new QHBoxLayout(userSelectedColorsFrame), "userSelectedColors");
     userSelectedColors->setSpacing(1);
     userSelectedColors->setContentsMargins(0, 0, 0, 0);
@@ -65,6 +74,7 @@ AdvancedColorPickerPopupForm::AdvancedColorPickerPopupForm(QFrame* popup)
 
     colorButtonsFrame = named(new QFrame(popup), "colorButtonsFrame");
     colorButtonsFrame->setLineWidth(0);
+    colorButtonsFrame->ensurePolished();
     colorButtonsLayout = named(new QGridLayout(colorButtonsFrame), "colorButtonsLayout");
     colorButtonsLayout->setSpacing(0);
     colorButtonsLayout->setContentsMargins(0, 0, 0, 0);
@@ -84,7 +94,6 @@ AdvancedColorPickerPopupForm::AdvancedColorPickerPopupForm(QFrame* popup)
     gridLayout_2->addWidget(opacityFrame, 3, 0, 1, 2);
 
     retranslate();
-    popup->setStyleSheet(AdvancedColorPickerPopupStyleSheet());
 }
 
 void AdvancedColorPickerPopupForm::retranslate()

@@ -31,44 +31,45 @@ PickerButtonDragFilter::~PickerButtonDragFilter()
 
 bool PickerButtonDragFilter::eventFilter(QObject* watched, QEvent* event)
 {
-    auto* const swatch = qobject_cast<PickerButton*>(watched);
-    if (!swatch)
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove:
+        if (auto* const swatch = qobject_cast<PickerButton*>(watched))
+            return handleMouse(swatch, static_cast<QMouseEvent*>(event));
         return false;
+    default:
+        return QObject::eventFilter(watched, event);
+    }
+}
+
+bool PickerButtonDragFilter::handleMouse(PickerButton* swatch, QMouseEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonRelease)
+        m_dragStartPosition = QPoint();
+    else if (event->type() == QEvent::MouseMove)
+        return dragWhenFarEnough(swatch, event);
+    else if (event->button() == Qt::LeftButton)
+        m_dragStartPosition = event->pos();
+    return QObject::eventFilter(swatch, event);
+}
+
+bool PickerButtonDragFilter::dragWhenFarEnough(PickerButton* swatch, QMouseEvent* event)
+{
+    if (!event->buttons().testFlag(Qt::LeftButton) ||
+        (event->pos() - m_dragStartPosition).manhattanLength() < QApplication::startDragDistance())
+        return QObject::eventFilter(swatch, event);
 
     const QPointer<PickerButtonDragFilter> self(this);
-    const QPointer<QObject> swatchGuard(watched);
-    switch (event->type()) {
-    case QEvent::MouseButtonPress: {
-        const auto* const press = static_cast<QMouseEvent*>(event);
-        if (press->button() == Qt::LeftButton)
-            m_dragStartPosition = press->pos();
-        break;
-    }
-    case QEvent::MouseButtonRelease:
-        m_dragStartPosition = QPoint();
-        break;
-    case QEvent::MouseMove:
-        dragWhenFarEnough(swatch, static_cast<QMouseEvent*>(event));
-        break;
-    default:
-        break;
-    }
-
+    const QPointer<PickerButton> swatchGuard(swatch);
+    runDrag(swatch);
     // The drag ran a loop of its own, in which the application may have deleted the popup with all that is in it. An
     // event for a swatch that is gone ends here.
     if (!swatchGuard) {
         event->accept();
         return true;
     }
-    return self ? QObject::eventFilter(watched, event) : false;
-}
-
-void PickerButtonDragFilter::dragWhenFarEnough(PickerButton* swatch, const QMouseEvent* event)
-{
-    if (!event->buttons().testFlag(Qt::LeftButton))
-        return;
-    if ((event->pos() - m_dragStartPosition).manhattanLength() >= QApplication::startDragDistance())
-        runDrag(swatch);
+    return self ? QObject::eventFilter(swatch, event) : false;
 }
 
 void PickerButtonDragFilter::runDrag(PickerButton* swatch)

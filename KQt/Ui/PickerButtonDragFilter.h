@@ -27,7 +27,9 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void dragWhenFarEnough(PickerButton* swatch, const QMouseEvent* event);
+    // Both say whether the event ends here.
+    bool handleMouse(PickerButton* swatch, QMouseEvent* event);
+    bool dragWhenFarEnough(PickerButton* swatch, QMouseEvent* event);
     void runDrag(PickerButton* swatch);
 
     // One mouse, one drag: all filters of the process share where it started.

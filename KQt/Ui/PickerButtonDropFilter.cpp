@@ -40,15 +40,17 @@ PickerButtonDropFilter::~PickerButtonDropFilter() = default;
 
 bool PickerButtonDropFilter::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() != QEvent::DragEnter && event->type() != QEvent::Drop)
+        return QObject::eventFilter(watched, event);
     auto* const swatch = qobject_cast<PickerButton*>(watched);
     if (!swatch)
         return false;
 
     const QPointer<PickerButtonDropFilter> self(this);
-    const QPointer<QObject> swatchGuard(watched);
+    const QPointer<PickerButton> swatchGuard(swatch);
     if (event->type() == QEvent::DragEnter)
         answerEnter(static_cast<QDropEvent*>(event));
-    else if (event->type() == QEvent::Drop)
+    else
         takeDrop(swatch, static_cast<QDropEvent*>(event));
 
     // A slot of the swatch's colorChanged() may have deleted it. The event then ends here.

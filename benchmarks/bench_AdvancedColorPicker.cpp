@@ -1,0 +1,137 @@
+#include <KQt/Ui/AdvancedColorPicker.h>
+#include <KQt/Ui/AdvancedColorPickerPopup.h>
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QGridLayout>
+#include <QToolButton>
+
+#include <memory>
+
+using Kestrel::Gui::AdvancedColorPicker;
+using Kestrel::Gui::AdvancedColorPickerPopup;
+
+namespace {
+
+constexpr int Rows = 11;
+constexpr int Columns = 12;
+
+/// As many tool buttons as the popup has swatches, with nothing else around them.
+std::unique_ptr<QWidget> plainButtons()
+{
+    auto window = std::make_unique<QWidget>();
+    auto* const grid = new QGridLayout(window.get());
+    for (int row = 0; row < Rows; ++row) {
+        for (int column = 0; column < Columns; ++column)
+            grid->addWidget(new QToolButton, row, column);
+    }
+    return window;
+}
+
+AdvancedColorPickerPopup* popupOf(const AdvancedColorPicker&)
+{
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget* const window : windows) {
+        if (auto* const popup = qobject_cast<AdvancedColorPickerPopup*>(window))
+            return popup;
+    }
+    return nullptr;
+}
+
+/// Runs the event loop until @p window has been painted at least once since it was shown.
+void paint(QWidget* window)
+{
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+    window->repaint();
+}
+
+void buildPicker(benchmark::State& state)
+{
+    for (auto _ : state) {
+        auto picker = std::make_unique<AdvancedColorPicker>();
+        benchmark::DoNotOptimize(picker.get());
+        state.PauseTiming();
+        picker.reset();
+        state.ResumeTiming();
+    }
+}
+
+void buildPlainButtons(benchmark::State& state)
+{
+    for (auto _ : state) {
+        auto window = plainButtons();
+        benchmark::DoNotOptimize(window.get());
+        state.PauseTiming();
+        window.reset();
+        state.ResumeTiming();
+    }
+}
+
+void buildAndShowPicker(benchmark::State& state)
+{
+    for (auto _ : state) {
+        auto picker = std::make_unique<AdvancedColorPicker>();
+        picker->setColor(Qt::red);
+        picker->showPopup();
+        AdvancedColorPickerPopup* const popup = popupOf(*picker);
+        paint(popup);
+        state.PauseTiming();
+        picker.reset();
+        state.ResumeTiming();
+    }
+}
+
+void buildAndShowColorDialog(benchmark::State& state)
+{
+    for (auto _ : state) {
+        auto dialog = std::make_unique<QColorDialog>();
+        dialog->setOption(QColorDialog::DontUseNativeDialog);
+        dialog->setCurrentColor(Qt::red);
+        dialog->show();
+        paint(dialog.get());
+        state.PauseTiming();
+        dialog.reset();
+        state.ResumeTiming();
+    }
+}
+
+void openAgain(benchmark::State& state)
+{
+    AdvancedColorPicker picker;
+    picker.setColor(Qt::red);
+    picker.showPopup();
+    AdvancedColorPickerPopup* const popup = popupOf(picker);
+    paint(popup);
+    for (auto _ : state) {
+        state.PauseTiming();
+        popup->hide();
+        QCoreApplication::processEvents();
+        state.ResumeTiming();
+        picker.showPopup();
+        paint(popup);
+    }
+}
+
+BENCHMARK(buildPicker)->Unit(benchmark::kMicrosecond);
+BENCHMARK(buildPlainButtons)->Unit(benchmark::kMicrosecond);
+BENCHMARK(buildAndShowPicker)->Unit(benchmark::kMicrosecond);
+BENCHMARK(buildAndShowColorDialog)->Unit(benchmark::kMicrosecond);
+BENCHMARK(openAgain)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
