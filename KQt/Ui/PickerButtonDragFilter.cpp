@@ -18,16 +18,7 @@ PickerButtonDragFilter::PickerButtonDragFilter(QObject* parent)
 {
 }
 
-PickerButtonDragFilter::~PickerButtonDragFilter()
-{
-    // The popup may die while a colour of it is dragged. The platform goes on using the drag until its loop has ended,
-    // so the drag must not die with the filter; the drag manager deletes it afterwards.
-    const auto drags = findChildren<QDrag*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QDrag* drag : drags)
-        drag->setParent(nullptr);
-    if (!drags.isEmpty())
-        QDrag::cancel();
-}
+PickerButtonDragFilter::~PickerButtonDragFilter() = default;
 
 bool PickerButtonDragFilter::eventFilter(QObject* watched, QEvent* event)
 {
@@ -84,7 +75,15 @@ void PickerButtonDragFilter::runDrag(PickerButton* swatch)
     drag->setPixmap(pixmap);
     // The bottom centre, not the middle: the colour is seen above the pointer while it is carried.
     drag->setHotSpot(QPoint(pixmap.width() / 2, pixmap.height()));
+
+    // The popup may die while a colour of it is dragged. The platform goes on using the drag until its loop has ended,
+    // so the drag must not die with the filter; the drag manager deletes it afterwards.
+    const auto guard = connect(this, &QObject::destroyed, drag, [drag] {
+        drag->setParent(nullptr);
+        QDrag::cancel();
+    });
     drag->exec(Qt::CopyAction);
+    disconnect(guard);
 }
 
 } // namespace Kestrel::Gui

@@ -21,7 +21,7 @@ class PickerButtonDragFilter : public QObject
 
 public:
     explicit PickerButtonDragFilter(QObject* parent = nullptr);
-    /// Cancels a drag that still runs.
+    /// Cancels a drag that is still running.
     ~PickerButtonDragFilter() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
