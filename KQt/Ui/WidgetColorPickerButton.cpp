@@ -1,0 +1,100 @@
+#include <KQt/Ui/WidgetColorPickerButton.h>
+
+#include <KQt/Ui/HighlightFrame.h>
+#include <KQt/Ui/WidgetColorPicker.h>
+
+#include <QStyleOptionButton>
+#include <QStylePainter>
+
+namespace Kestrel::Gui {
+
+WidgetColorPickerButton::WidgetColorPickerButton(QWidget* parent)
+    : QToolButton(parent)
+    , m_picker(new WidgetColorPicker(this))
+{
+    connect(this, &QToolButton::clicked, this, &WidgetColorPickerButton::startPicking);
+    setEnabled(false);
+}
+
+WidgetColorPickerButton::~WidgetColorPickerButton()
+{
+    delete m_highlight;
+}
+
+QColor WidgetColorPickerButton::color() const
+{
+    return m_color;
+}
+
+void WidgetColorPickerButton::setColor(const QColor& color)
+{
+    const QPointer<WidgetColorPickerButton> self(this);
+    m_color = color;
+    Q_EMIT colorChanged(m_color);
+    if (!self || !m_changeSelfColor)
+        return;
+    setStyleSheet(QStringLiteral("QToolButton { background-color: %1 }").arg(m_color.name()));
+    update();
+}
+
+void WidgetColorPickerButton::setTargetWidget(QWidget* target)
+{
+    const auto disable = [this] { setEnabled(false); };
+    if (m_target)
+        disconnect(m_target, &QObject::destroyed, this, nullptr);
+    m_target = target;
+    if (target)
+        connect(target, &QObject::destroyed, this, disable);
+    setEnabled(target != nullptr);
+}
+
+const QWidget* WidgetColorPickerButton::targetWidget() const
+{
+    return m_target;
+}
+
+void WidgetColorPickerButton::startPicking()
+{
+    if (!m_target || m_picker->pickingInProgress())
+        return;
+
+    const QPointer<WidgetColorPickerButton> self(this);
+    if (m_changeSelfColor) {
+        delete m_highlight;
+        m_highlight = new HighlightFrame(this);
+        m_highlight->setObjectName(QStringLiteral("WidgetColorPickerButtonFrame"));
+    }
+    Q_EMIT pickingStarted();
+    if (!self)
+        return;
+    const QColor picked = m_picker->pick(m_target, {this});
+    if (!self)
+        return;
+    Q_EMIT pickingFinished();
+    if (!self)
+        return;
+    delete m_highlight;
+    if (picked.isValid())
+        setColor(picked);
+}
+
+void WidgetColorPickerButton::stopPicking()
+{
+    delete m_highlight;
+    m_picker->stop();
+}
+
+void WidgetColorPickerButton::paintEvent(QPaintEvent* event)
+{
+    if (!m_changeSelfColor) {
+        QToolButton::paintEvent(event);
+        return;
+    }
+    // A plain push button: the colour is the style sheet's background.
+    QStyleOptionButton option;
+    option.initFrom(this);
+    QStylePainter painter(this);
+    painter.drawControl(QStyle::CE_PushButton, option);
+}
+
+} // namespace Kestrel::Gui

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include <functional>
+
+namespace TestSupport {
+
+/// Calls @p action from the event loop once @p condition holds; gives up after ten seconds.
+inline void onceTrue(std::function<bool()> condition, std::function<void()> action)
+{
+    auto* timer = new QTimer(QCoreApplication::instance());
+    timer->setInterval(1);
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, elapsed, condition, action] {
+        constexpr qint64 patience = 10000;
+        if (elapsed.hasExpired(patience)) {
+            timer->deleteLater();
+            return;
+        }
+        if (!condition())
+            return;
+        timer->stop();
+        timer->deleteLater();
+        action();
+    });
+    timer->start();
+}
+
+} // namespace TestSupport
