@@ -12,6 +12,7 @@
 #include <QPainter>
 #include <QWindow>
 
+#include <algorithm>
 #include <cstddef>
 
 namespace Kestrel::Gui {
@@ -237,10 +238,9 @@ void FillAlphaCahnnel(QImage& image, const QRect& rect, int alpha)
 {
     if (alpha < 0 || alpha > 255)
         KQTUI_THROW_INVALID_ARGUMENT("Alpha Value must be in [0; 255] range");
-    // An inverted rect has no rows or columns; QRect::intersected() would turn it over.
-    if (rect.isEmpty())
-        return;
-    const QRect area = rect & image.rect();
+    // By the edges: QRect::intersected() would turn an inverted rect over and take the largest one there is for null.
+    const QRect area(QPoint(std::max(rect.left(), 0), std::max(rect.top(), 0)),
+                     QPoint(std::min(rect.right(), image.width() - 1), std::min(rect.bottom(), image.height() - 1)));
     if (area.isEmpty())
         return;
     const bool fast = image.format() == QImage::Format_ARGB32 || image.format() == QImage::Format_ARGB32_Premultiplied;
