@@ -13,11 +13,11 @@
     </message>
     <message>
         <source>Named palette</source>
-        <translation type="unfinished"></translation>
+        <translation>لوحة الألوان المسماة</translation>
     </message>
     <message>
         <source>Pens and lines</source>
-        <translation type="unfinished"></translation>
+        <translation>الأقلام والخطوط</translation>
     </message>
 </context>
 <context>
@@ -153,23 +153,23 @@
     <name>Gallery::NamedPalettePage</name>
     <message>
         <source>Click the button: a default colour, forty named colours, and a dialog behind &quot;More...&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>انقر الزر: لون افتراضي وأربعون لونًا مسمّى، ومربع حوار خلف «المزيد...».</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>اللون</translation>
     </message>
     <message>
         <source>While its popup is open the picker&apos;s property &quot;pressed&quot; is true: the page&apos;s style sheet gives it a thick border then.</source>
-        <translation type="unfinished"></translation>
+        <translation>ما دامت النافذة المنبثقة مفتوحة تكون الخاصية "pressed" صحيحة: عندئذ تمنحه ورقة أنماط الصفحة حدًا سميكًا.</translation>
     </message>
     <message>
         <source>Colorized</source>
-        <translation type="unfinished"></translation>
+        <translation>ملوّن</translation>
     </message>
     <message>
         <source>Dark popup</source>
-        <translation type="unfinished"></translation>
+        <translation>نافذة داكنة</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -177,11 +177,11 @@
     </message>
     <message>
         <source>Make it the default</source>
-        <translation type="unfinished"></translation>
+        <translation>اجعله الافتراضي</translation>
     </message>
     <message>
         <source>The popup&apos;s &quot;Default&quot; button chooses this colour from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>زر «افتراضي» في النافذة يختار هذا اللون من الآن فصاعدًا.</translation>
     </message>
 </context>
 <context>
@@ -214,43 +214,43 @@
     <name>Gallery::PensAndLinesPage</name>
     <message>
         <source>Pens, lines and opacity: each group draws what its boxes say.</source>
-        <translation type="unfinished"></translation>
+        <translation>الأقلام والخطوط والعتامة: ترسم كل مجموعة ما تقوله حقولها.</translation>
     </message>
     <message>
         <source>Pen picker</source>
-        <translation type="unfinished"></translation>
+        <translation>منتقي القلم</translation>
     </message>
     <message>
         <source>Line style</source>
-        <translation type="unfinished"></translation>
+        <translation>نمط الخط</translation>
     </message>
     <message>
         <source>Line width</source>
-        <translation type="unfinished"></translation>
+        <translation>عرض الخط</translation>
     </message>
     <message>
         <source>Line style and line width</source>
-        <translation type="unfinished"></translation>
+        <translation>نمط الخط وعرضه</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>العتامة</translation>
     </message>
     <message>
         <source>Opacity adapter</source>
-        <translation type="unfinished"></translation>
+        <translation>محوّل العتامة</translation>
     </message>
     <message>
         <source>Value: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>القيمة: %1</translation>
     </message>
     <message>
         <source>Slider with a zero tick</source>
-        <translation type="unfinished"></translation>
+        <translation>منزلق بعلامة الصفر</translation>
     </message>
     <message>
         <source>Coloured tick</source>
-        <translation type="unfinished"></translation>
+        <translation>علامة ملونة</translation>
     </message>
     <message>
         <source>Enabled</source>

@@ -13,11 +13,11 @@
     </message>
     <message>
         <source>Named palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Benannte Palette</translation>
     </message>
     <message>
         <source>Pens and lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Stifte und Linien</translation>
     </message>
 </context>
 <context>
@@ -153,23 +153,23 @@
     <name>Gallery::NamedPalettePage</name>
     <message>
         <source>Click the button: a default colour, forty named colours, and a dialog behind &quot;More...&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken Sie auf den Knopf: eine Standardfarbe, vierzig benannte Farben und hinter „Mehr ...“ ein Dialog.</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbe</translation>
     </message>
     <message>
         <source>While its popup is open the picker&apos;s property &quot;pressed&quot; is true: the page&apos;s style sheet gives it a thick border then.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solange das Popup offen ist, ist die Eigenschaft „pressed“ wahr: Das Stylesheet der Seite gibt dem Knopf dann einen dicken Rand.</translation>
     </message>
     <message>
         <source>Colorized</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingefärbt</translation>
     </message>
     <message>
         <source>Dark popup</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkles Popup</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -177,11 +177,11 @@
     </message>
     <message>
         <source>Make it the default</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Standard machen</translation>
     </message>
     <message>
         <source>The popup&apos;s &quot;Default&quot; button chooses this colour from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Knopf „Standard“ des Popups wählt von nun an diese Farbe.</translation>
     </message>
 </context>
 <context>
@@ -214,43 +214,43 @@
     <name>Gallery::PensAndLinesPage</name>
     <message>
         <source>Pens, lines and opacity: each group draws what its boxes say.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stifte, Linien und Deckkraft: Jede Gruppe zeichnet, was ihre Felder sagen.</translation>
     </message>
     <message>
         <source>Pen picker</source>
-        <translation type="unfinished"></translation>
+        <translation>Stiftauswahl</translation>
     </message>
     <message>
         <source>Line style</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienart</translation>
     </message>
     <message>
         <source>Line width</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienbreite</translation>
     </message>
     <message>
         <source>Line style and line width</source>
-        <translation type="unfinished"></translation>
+        <translation>Linienart und Linienbreite</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft</translation>
     </message>
     <message>
         <source>Opacity adapter</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft-Adapter</translation>
     </message>
     <message>
         <source>Value: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert: %1</translation>
     </message>
     <message>
         <source>Slider with a zero tick</source>
-        <translation type="unfinished"></translation>
+        <translation>Schieber mit Nullstrich</translation>
     </message>
     <message>
         <source>Coloured tick</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbiger Strich</translation>
     </message>
     <message>
         <source>Enabled</source>

@@ -45,7 +45,7 @@
     <name>QObject</name>
     <message>
         <source>Left: %1# Top: %2# Width: %3# Height: %4#</source>
-        <translation type="unfinished"></translation>
+        <translation>يسار: %1# أعلى: %2# العرض: %3# الارتفاع: %4#</translation>
     </message>
 </context>
 </TS>

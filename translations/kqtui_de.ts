@@ -45,7 +45,7 @@
     <name>QObject</name>
     <message>
         <source>Left: %1# Top: %2# Width: %3# Height: %4#</source>
-        <translation type="unfinished"></translation>
+        <translation>Links: %1# Oben: %2# Breite: %3# Höhe: %4#</translation>
     </message>
 </context>
 </TS>

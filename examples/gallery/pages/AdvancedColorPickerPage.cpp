@@ -78,7 +78,7 @@ private:
             swatch->setColor(shown);
             (m_note->*apply)(shown);
         };
-        m_setters.push_back([picker, show](const QColor& given) {
+        m_setters.emplace_back([picker, show](const QColor& given) {
             picker->setColor(given);
             show(given);
         });

@@ -3,11 +3,13 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <utility>
+
 namespace Gallery {
 
-InkPad::InkPad(const QString& hint, QWidget* parent)
+InkPad::InkPad(QString hint, QWidget* parent)
     : QFrame(parent)
-    , m_hint(hint)
+    , m_hint(std::move(hint))
 {
     constexpr int smallest = 90;
     setMinimumHeight(smallest);

@@ -12,7 +12,7 @@ class InkPad : public QFrame
     Q_OBJECT
 
 public:
-    explicit InkPad(const QString& hint, QWidget* parent = nullptr);
+    explicit InkPad(QString hint, QWidget* parent = nullptr);
 
     QSize sizeHint() const override;
 

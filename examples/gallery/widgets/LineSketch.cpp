@@ -8,7 +8,7 @@ namespace Gallery {
 LineSketch::LineSketch(QWidget* parent)
     : QWidget(parent)
 {
-    setMinimumHeight(sizeHint().height());
+    setMinimumHeight(LineSketch::sizeHint().height());
 }
 
 void LineSketch::setPen(const QPen& pen)

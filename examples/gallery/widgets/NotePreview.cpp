@@ -2,11 +2,13 @@
 
 #include <QPainter>
 
+#include <utility>
+
 namespace Gallery {
 
-NotePreview::NotePreview(const QString& text, QWidget* parent)
+NotePreview::NotePreview(QString text, QWidget* parent)
     : QWidget(parent)
-    , m_text(text)
+    , m_text(std::move(text))
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }

@@ -11,7 +11,7 @@ class NotePreview : public QWidget
     Q_OBJECT
 
 public:
-    explicit NotePreview(const QString& text, QWidget* parent = nullptr);
+    explicit NotePreview(QString text, QWidget* parent = nullptr);
 
     void setPaper(const QColor& color);
     void setInk(const QColor& color);

@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <utility>
+
 namespace Gallery {
 
 namespace {
@@ -12,9 +14,9 @@ constexpr QRgb litColor = 0x35b64a;
 
 } // namespace
 
-SignalLamp::SignalLamp(const QString& signal, QWidget* parent)
+SignalLamp::SignalLamp(QString signal, QWidget* parent)
     : QWidget(parent)
-    , m_signal(signal)
+    , m_signal(std::move(signal))
 {
     constexpr int flashDuration = 350; // milliseconds
     m_off.setSingleShot(true);

@@ -11,7 +11,7 @@ class SignalLamp : public QWidget
     Q_OBJECT
 
 public:
-    explicit SignalLamp(const QString& signal, QWidget* parent = nullptr);
+    explicit SignalLamp(QString signal, QWidget* parent = nullptr);
 
     QString value() const { return m_value; }
     bool isLit() const { return m_off.isActive(); }
