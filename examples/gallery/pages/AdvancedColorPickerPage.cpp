@@ -14,6 +14,10 @@
 #include <QRandomGenerator>
 #include <QVBoxLayout>
 
+#include <functional>
+#include <utility>
+#include <vector>
+
 namespace Gallery {
 
 namespace {
@@ -33,9 +37,12 @@ public:
         stage()->addLayout(m_rows);
         constexpr int swatchColumn = 2;
         m_rows->setColumnStretch(swatchColumn, 1);
-        m_paper = addPicker(tr("Paper"), QStringLiteral("paper"), QColor(0xfff1d7), &NotePreview::setPaper);
-        m_ink = addPicker(tr("Ink"), QStringLiteral("ink"), QColor(0x033076), &NotePreview::setInk);
-        m_marker = addPicker(tr("Marker"), QStringLiteral("marker"), translucentYellow(), &NotePreview::setMarker);
+        m_paper = addPicker(tr("Paper"), QStringLiteral("paper"), QColor(0xfff1d7),
+                            [this](const QColor& color) { m_note->setPaper(color); });
+        m_ink = addPicker(tr("Ink"), QStringLiteral("ink"), QColor(0x033076),
+                          [this](const QColor& color) { m_note->setInk(color); });
+        m_marker = addPicker(tr("Marker"), QStringLiteral("marker"), translucentYellow(),
+                             [this](const QColor& color) { m_note->setMarker(color); });
         m_paper->setOpacityAdjustmentAvailable(false);
         m_ink->setOpacityAdjustmentAvailable(false);
         addDragHint();
@@ -60,7 +67,7 @@ private:
     }
 
     AdvancedColorPicker* addPicker(const QString& label, const QString& name, const QColor& color,
-                                   void (NotePreview::*apply)(const QColor&))
+                                   std::function<void(const QColor&)> apply)
     {
         constexpr QSize size(64, 30);
         auto* picker = new AdvancedColorPicker;
@@ -74,9 +81,9 @@ private:
         m_rows->addWidget(picker, row, 1);
         m_rows->addWidget(swatch, row, 2);
 
-        const auto show = [this, swatch, apply](const QColor& shown) {
+        const auto show = [swatch, apply = std::move(apply)](const QColor& shown) {
             swatch->setColor(shown);
-            (m_note->*apply)(shown);
+            apply(shown);
         };
         m_setters.emplace_back([picker, show](const QColor& given) {
             picker->setColor(given);
