@@ -3,7 +3,7 @@
 namespace Kestrel::Gui {
 
 // clang-format off
-const std::array<QColor, AdvancedColorPaletteRows * AdvancedColorPaletteColumns> AdvancedColorPalette = { // clazy:exclude=non-pod-global-static
+const std::array<QColor, AdvancedColorPaletteSize> AdvancedColorPalette = { // clazy:exclude=non-pod-global-static
     QColor("#ffffff"), QColor("#f7f6f6"), QColor("#ebebeb"), QColor("#d6d6d6"), QColor("#c0c0c0"), QColor("#aaaaaa"),
     QColor("#929292"), QColor("#7a7a7a"), QColor("#606060"), QColor("#444444"), QColor("#232323"), QColor("#000000"),
 

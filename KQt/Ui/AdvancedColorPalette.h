@@ -8,8 +8,9 @@ namespace Kestrel::Gui {
 
 constexpr int AdvancedColorPaletteRows = 10;
 constexpr int AdvancedColorPaletteColumns = 12;
+constexpr int AdvancedColorPaletteSize = AdvancedColorPaletteRows * AdvancedColorPaletteColumns;
 
 /// The fixed colours of the advanced colour popup, row by row as they lie in the grid; all opaque.
-extern const std::array<QColor, AdvancedColorPaletteRows * AdvancedColorPaletteColumns> AdvancedColorPalette;
+extern const std::array<QColor, AdvancedColorPaletteSize> AdvancedColorPalette;
 
 } // namespace Kestrel::Gui

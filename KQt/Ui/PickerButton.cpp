@@ -12,6 +12,8 @@ constexpr int RingWidth = 3;
 
 } // namespace
 
+// Moving a colour copies it.
+// NOLINTNEXTLINE(modernize-pass-by-value)
 PickerButton::PickerButton(const QColor& color, QWidget* parent)
     : QToolButton(parent)
     , m_color(color)
