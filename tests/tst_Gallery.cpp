@@ -455,11 +455,14 @@ void tst_Gallery::logCountsSwarms()
     SignalLog log;
     log.addCounted(QStringLiteral("moved(1)"));
     log.addCounted(QStringLiteral("moved(2)"));
+    log.addCounted(QStringLiteral("hovered(1)"));
     log.addCounted(QStringLiteral("moved(3)"));
-    QCOMPARE(log.toPlainText(), QStringLiteral("moved(3) ×3"));
+    QCOMPARE(log.toPlainText(), QStringLiteral("moved(3) ×3\nhovered(1)"));
+    log.addCounted(QStringLiteral("hovered(2)"));
+    QCOMPARE(log.toPlainText(), QStringLiteral("moved(3) ×3\nhovered(2) ×2"));
     log.add(QStringLiteral("pressed()"));
     log.addCounted(QStringLiteral("moved(4)"));
-    QCOMPARE(log.toPlainText(), QStringLiteral("moved(3) ×3\npressed()\nmoved(4)"));
+    QCOMPARE(log.toPlainText(), QStringLiteral("moved(3) ×3\nhovered(2) ×2\npressed()\nmoved(4)"));
     log.clear();
     log.addCounted(QStringLiteral("moved(5)"));
     QCOMPARE(log.toPlainText(), QStringLiteral("moved(5)"));

@@ -19,6 +19,10 @@
         <source>Pens and lines</source>
         <translation>الأقلام والخطوط</translation>
     </message>
+    <message>
+        <source>Eyedropper</source>
+        <translation>قطّارة الألوان</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -111,6 +115,25 @@
     </message>
 </context>
 <context>
+    <name>Gallery::EyedropperPage</name>
+    <message>
+        <source>Press the button, then click into the picture: the button takes the colour under the cursor. Any key picks as well; a click elsewhere ends it without a colour.</source>
+        <translation>اضغط الزر ثم انقر داخل الصورة: يأخذ الزر اللون الذي تحت المؤشر. أي مفتاح يلتقط أيضًا، والنقر خارجها ينهي العملية دون لون.</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the picture</source>
+        <translation>التقط لونًا من الصورة</translation>
+    </message>
+    <message>
+        <source>Button shows the colour</source>
+        <translation>الزر يعرض اللون</translation>
+    </message>
+    <message>
+        <source>Picture is the target</source>
+        <translation>الصورة هي الهدف</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::MainWindow</name>
     <message>
         <source>KQtUi gallery</source>
@@ -161,7 +184,7 @@
     </message>
     <message>
         <source>While its popup is open the picker&apos;s property &quot;pressed&quot; is true: the page&apos;s style sheet gives it a thick border then.</source>
-        <translation>ما دامت النافذة المنبثقة مفتوحة تكون الخاصية "pressed" صحيحة: عندئذ تمنحه ورقة أنماط الصفحة حدًا سميكًا.</translation>
+        <translation>ما دامت النافذة المنبثقة مفتوحة تكون الخاصية &quot;pressed&quot; صحيحة: عندئذ تمنحه ورقة أنماط الصفحة حدًا سميكًا.</translation>
     </message>
     <message>
         <source>Colorized</source>
@@ -173,7 +196,7 @@
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished">مُفعّل</translation>
+        <translation>مُفعّل</translation>
     </message>
     <message>
         <source>Make it the default</source>
@@ -254,7 +277,7 @@
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished">مُفعّل</translation>
+        <translation>مُفعّل</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,10 @@
         <source>Pens and lines</source>
         <translation>Stifte und Linien</translation>
     </message>
+    <message>
+        <source>Eyedropper</source>
+        <translation>Pipette</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -111,6 +115,25 @@
     </message>
 </context>
 <context>
+    <name>Gallery::EyedropperPage</name>
+    <message>
+        <source>Press the button, then click into the picture: the button takes the colour under the cursor. Any key picks as well; a click elsewhere ends it without a colour.</source>
+        <translation>Drücken Sie den Knopf und klicken Sie dann in das Bild: Der Knopf nimmt die Farbe unter dem Zeiger an. Auch jede Taste wählt; ein Klick daneben endet ohne Farbe.</translation>
+    </message>
+    <message>
+        <source>Pick a colour from the picture</source>
+        <translation>Farbe aus dem Bild wählen</translation>
+    </message>
+    <message>
+        <source>Button shows the colour</source>
+        <translation>Knopf zeigt die Farbe</translation>
+    </message>
+    <message>
+        <source>Picture is the target</source>
+        <translation>Bild ist das Ziel</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::MainWindow</name>
     <message>
         <source>KQtUi gallery</source>
@@ -173,7 +196,7 @@
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished">Aktiviert</translation>
+        <translation>Aktiviert</translation>
     </message>
     <message>
         <source>Make it the default</source>
@@ -254,7 +277,7 @@
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished">Aktiviert</translation>
+        <translation>Aktiviert</translation>
     </message>
 </context>
 <context>

@@ -17,7 +17,7 @@
     <message>
         <source>none</source>
         <extracomment>Shown instead of a sample line where the line width is zero.</extracomment>
-        <translation type="unfinished">بلا</translation>
+        <translation>بلا</translation>
     </message>
 </context>
 <context>
@@ -25,7 +25,7 @@
     <message>
         <source>none</source>
         <extracomment>Shown instead of a sample line where the line width is zero.</extracomment>
-        <translation type="unfinished">بلا</translation>
+        <translation>بلا</translation>
     </message>
 </context>
 <context>
@@ -33,12 +33,12 @@
     <message>
         <source>More...</source>
         <extracomment>Button that opens a dialog with all colours.</extracomment>
-        <translation type="unfinished">المزيد...</translation>
+        <translation>المزيد...</translation>
     </message>
     <message>
         <source>Default</source>
         <extracomment>Button that chooses the default colour.</extracomment>
-        <translation type="unfinished">افتراضي</translation>
+        <translation>افتراضي</translation>
     </message>
 </context>
 <context>

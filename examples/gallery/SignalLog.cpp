@@ -28,28 +28,28 @@ QSize SignalLog::sizeHint() const
 
 void SignalLog::add(const QString& line)
 {
-    m_countedSignal.clear();
+    m_swarms.clear();
     appendPlainText(line);
 }
 
 void SignalLog::addCounted(const QString& line)
 {
     const QString signal = line.section(QLatin1Char('('), 0, 0);
-    if (signal == m_countedSignal && !document()->isEmpty()) {
-        ++m_count;
-        replaceNewest(QStringLiteral("%1 \u00d7%2").arg(line).arg(m_count));
+    const auto swarm = m_swarms.find(signal);
+    // The line may be gone: cleared, or dropped as the oldest.
+    if (swarm != m_swarms.end() && swarm->line.isValid() && swarm->line.text().startsWith(signal)) {
+        ++swarm->count;
+        replace(swarm->line, QStringLiteral("%1 ×%2").arg(line).arg(swarm->count));
         return;
     }
-    add(line);
-    m_countedSignal = signal;
-    m_count = 1;
+    appendPlainText(line);
+    m_swarms.insert(signal, {document()->lastBlock()});
 }
 
-void SignalLog::replaceNewest(const QString& line)
+void SignalLog::replace(const QTextBlock& block, const QString& line)
 {
-    QTextCursor cursor(document());
-    cursor.movePosition(QTextCursor::End);
-    cursor.movePosition(QTextCursor::StartOfBlock, QTextCursor::KeepAnchor);
+    QTextCursor cursor(block);
+    cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
     cursor.insertText(line);
 }
 

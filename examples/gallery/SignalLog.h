@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QHash>
 #include <QPlainTextEdit>
+#include <QTextBlock>
 
 namespace Gallery {
 
@@ -17,15 +19,20 @@ public:
     /// Adds a line: "sender.signal(arguments)" as the caller words it.
     void add(const QString& line);
 
-    /// The same for signals that come in swarms, as a moving mouse sends them: takes the place of the newest line where
-    /// that holds the same signal, and counts.
+    /// The same for signals that come in swarms, as a moving mouse sends them: until add() is called again, each signal
+    /// has one line, which shows its newest arguments and counts.
     void addCounted(const QString& line);
 
 private:
-    void replaceNewest(const QString& line);
+    struct Swarm
+    {
+        QTextBlock line;
+        int count = 1;
+    };
 
-    QString m_countedSignal;
-    int m_count = 0;
+    static void replace(const QTextBlock& block, const QString& line);
+
+    QHash<QString, Swarm> m_swarms;
 };
 
 } // namespace Gallery

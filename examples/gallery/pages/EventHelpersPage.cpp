@@ -79,7 +79,11 @@ private:
     void report(SignalLamp* lamp, const QString& signal, const QString& arguments)
     {
         lamp->flash(arguments);
-        logCounted(QStringLiteral("%1(%2)").arg(signal, arguments));
+        const QString line = QStringLiteral("%1(%2)").arg(signal, arguments);
+        if (signal.endsWith(QLatin1String("Moved")))
+            logCounted(line);
+        else
+            log(line);
     }
 
     template <typename Event>
