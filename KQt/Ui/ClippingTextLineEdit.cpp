@@ -1,0 +1,68 @@
+#include <KQt/Ui/ClippingTextLineEdit.h>
+
+#include <KQt/Ui/DirectionalText.h>
+
+#include <QPointer>
+
+namespace Kestrel::Gui {
+
+ClippingTextLineEdit::ClippingTextLineEdit(QWidget* parent)
+    : QLineEdit(parent)
+{
+}
+
+ClippingTextLineEdit::~ClippingTextLineEdit() = default;
+
+QString ClippingTextLineEdit::GetOriginalText() const
+{
+    return Detail::withoutDirectionalMarks(m_originalText);
+}
+
+void ClippingTextLineEdit::SetOriginalText(const QString& text)
+{
+    m_originalText = Detail::withDirectionalMarks(text);
+    updateViewText();
+}
+
+void ClippingTextLineEdit::updateViewText()
+{
+    // The whole width, frame included: the ellipsis may lie under the frame's inner edge.
+    m_viewText = m_editing ? m_originalText : fontMetrics().elidedText(m_originalText, Qt::ElideRight, width());
+    showViewText();
+}
+
+void ClippingTextLineEdit::showViewText()
+{
+    setText(m_viewText);
+    setToolTip(m_viewText == m_originalText ? QString() : m_originalText);
+    setCursorPosition(0);
+}
+
+void ClippingTextLineEdit::focusInEvent(QFocusEvent* event)
+{
+    m_editing = true;
+    updateViewText();
+    QLineEdit::focusInEvent(event);
+}
+
+void ClippingTextLineEdit::focusOutEvent(QFocusEvent* event)
+{
+    const QPointer<ClippingTextLineEdit> self(this); // a slot may delete the edit
+    m_editing = false;
+    if (text() != m_originalText) {
+        m_originalText = text();
+        Q_EMIT OriginalTextChanged(m_originalText);
+        if (!self)
+            return;
+    }
+    updateViewText();
+    QLineEdit::focusOutEvent(event);
+}
+
+void ClippingTextLineEdit::resizeEvent(QResizeEvent* event)
+{
+    updateViewText();
+    QLineEdit::resizeEvent(event);
+}
+
+} // namespace Kestrel::Gui
