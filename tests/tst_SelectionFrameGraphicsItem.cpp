@@ -126,6 +126,7 @@ private Q_SLOTS:
     void transparencyIsStoredOnly();
     void handlerIsBorrowed();
     void deletedWithItsScene();
+    void deletedByItsHandler();
 
 private:
     template <typename Item>
@@ -632,6 +633,53 @@ void tst_SelectionFrameGraphicsItem::deletedWithItsScene()
     delete item;
     QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, inside);
     QCOMPARE(alive, 0);
+}
+
+void tst_SelectionFrameGraphicsItem::deletedByItsHandler()
+{
+    // A host may take the frame away in answer to any message of it.
+    struct Deleting : ISelectionFrameEventHandler
+    {
+        void InteractionStateChanged() override { count(); }
+        void FrameChanged(const QRectF&) override { count(); }
+        void SetCursor(Qt::CursorShape) override { count(); }
+        void count()
+        {
+            if (--messagesLeft == 0)
+                item.reset();
+        }
+        std::unique_ptr<PlainFrame> item;
+        int messagesLeft = 0;
+    };
+    QGraphicsScene scene(0, 0, 1000, 1000);
+    const QVector<QVector<QPointF>> gestures = {
+        {{150, 150}, {160, 160}}, {{200, 150}, {230, 150}}, {{100, 100}, {50, 50}}, {{50, 50}, {60, 60}}};
+    int deletions = 0;
+    for (const QVector<QPointF>& gesture : gestures) {
+        for (int message = 1; message < 12; ++message) {
+            Deleting handler;
+            handler.item = std::make_unique<PlainFrame>(&handler);
+            scene.addItem(handler.item.get());
+            handler.item->Initialize(QRectF(0, 0, 500, 400), QRectF(100, 100, 100, 100));
+            handler.messagesLeft = message;
+            const auto stillThere = [&handler] { return handler.item != nullptr; };
+            if (stillThere())
+                FrameGestures::hover(*handler.item, QPointF(150, 150), QEvent::GraphicsSceneHoverEnter);
+            if (stillThere())
+                FrameGestures::press(*handler.item, gesture.first());
+            if (stillThere())
+                FrameGestures::move(*handler.item, gesture.last());
+            if (stillThere())
+                FrameGestures::release(*handler.item, gesture.last());
+            if (stillThere())
+                handler.item->SetAspectRatio(2.0);
+            if (stillThere())
+                FrameGestures::leave(*handler.item, QPointF(0, 0));
+            deletions += stillThere() ? 0 : 1;
+        }
+    }
+    QVERIFY(deletions > 20);
+    QVERIFY(scene.items().isEmpty());
 }
 
 QTEST_MAIN(tst_SelectionFrameGraphicsItem)

@@ -194,6 +194,8 @@ private Q_SLOTS:
     void transparencyOutOfRangeThrows();
     void windowGoesFirst();
     void widgetGoesFirst();
+    void veilGoesFirst();
+    void sceneGoesFirst();
 };
 
 void tst_SelectionFrameWidget::freshWidget()
@@ -735,6 +737,40 @@ void tst_SelectionFrameWidget::widgetGoesFirst()
     QVERIFY(!scene);
     sendMouse(&window, QEvent::MouseButtonPress, QPointF(5, 5));
     QCOMPARE(window.events, QVector<QEvent::Type>{QEvent::MouseButtonPress});
+}
+
+void tst_SelectionFrameWidget::veilGoesFirst()
+{
+    // scene() is everybody's: clearing it takes the strips along, one of them or all.
+    QWindow window;
+    SelectionFrameWidget widget(nullptr, &window);
+    widget.setSceneRect(0, 0, 400, 200);
+    delete strips(widget).at(1);
+    widget.SetWorkRect(QRectF(100, 50, 200, 100));
+    widget.SetBGColor(Qt::red);
+    QCOMPARE(stripRects(widget),
+             (QVector<QRectF>{QRectF(0, 0, 400, 50), QRectF(0, 50, 100, 100), QRectF(300, 50, 100, 100)}));
+    widget.scene()->clear();
+    widget.SetWorkRect(QRectF(10, 5, 200, 100));
+    widget.SetBGColor(Qt::blue);
+    QVERIFY(widget.scene()->items().isEmpty());
+}
+
+void tst_SelectionFrameWidget::sceneGoesFirst()
+{
+    QWindow window;
+    SelectionFrameWidget widget(nullptr, &window);
+    widget.resize(100, 100);
+    widget.EnableEditMode(true);
+    delete widget.scene();
+    widget.SetWorkRect(QRectF(10, 5, 20, 10));
+    widget.SetBGColor(Qt::blue);
+    sendMouse(&window, QEvent::MouseButtonPress, QPointF(5, 5));
+    sendMouse(&window, QEvent::MouseMove, QPointF(15, 5));
+    sendMouse(&window, QEvent::MouseButtonRelease, QPointF(15, 5));
+    const QImage image = widget.RenderToImage();
+    QCOMPARE(image.size(), QSize(100, 100));
+    QCOMPARE(image.pixel(50, 50), qRgba(0, 0, 0, 0));
 }
 
 QTEST_MAIN(tst_SelectionFrameWidget)

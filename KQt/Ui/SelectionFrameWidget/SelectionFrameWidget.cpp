@@ -179,9 +179,9 @@ void SelectionFrameWidget::SetWorkRect(QRectF work)
 QImage SelectionFrameWidget::RenderToImage()
 {
     QImage image(size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
     if (image.isNull() || !m_scene)
         return image;
-    image.fill(Qt::transparent);
     {
         QPainter painter(&image);
         m_scene->render(&painter, QRectF(), QRectF(), Qt::KeepAspectRatio);
