@@ -53,6 +53,7 @@ private Q_SLOTS:
     void restoredRatio();
     void shapesAreComparedExactly();
 
+    void paintableRectIsCutFarOutside();
     void alignedRectIsCutToWholeNumbers();
     void anyNumberIsTaken();
 };
@@ -303,6 +304,16 @@ void tst_SelectionFrameGeometry::shapesAreComparedExactly()
     QVERIFY(hasSameShape({0, 0, 20, 10}, {5, 5, 200, 100}));
     QVERIFY(!hasSameShape({0, 0, 20, std::nextafter(10.0, 11.0)}, {5, 5, 200, 100}));
     QVERIFY(!hasSameShape({0, 0, 20, 10}, {}));
+}
+
+void tst_SelectionFrameGeometry::paintableRectIsCutFarOutside()
+{
+    QCOMPARE(paintableRect({0.5, -0.5, 1e6, -30}), QRectF(0.5, -0.5, 1e6, -30));
+    const QRectF cut = paintableRect(QRectF(QPointF(20, 30), QPointF(1e300, Infinity)));
+    QCOMPARE(cut.topLeft(), QPointF(20, 30));
+    QVERIFY(cut.right() > 1e6 && cut.right() < 1e9);
+    QVERIFY(cut.bottom() > 1e6 && cut.bottom() < 1e9);
+    QVERIFY(!paintableRect({NotANumber, 0, 10, 10}).intersects({-1e6, -1e6, 2e6, 2e6}));
 }
 
 void tst_SelectionFrameGeometry::alignedRectIsCutToWholeNumbers()

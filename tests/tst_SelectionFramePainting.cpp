@@ -11,6 +11,8 @@
 #include <QTranslator>
 #include <QtTest>
 
+#include <limits>
+
 using namespace Kestrel::Gui;
 using PlainFrame = ProbeFrame<QGraphicsItem>;
 using PixmapFrame = ProbeFrame<QGraphicsPixmapItem>;
@@ -97,6 +99,7 @@ private Q_SLOTS:
     void percentSignsAreSetAfterTranslating();
     void languageChangeRepaints();
     void throughAView();
+    void endlessFramesArePainted();
 
 private:
     template <typename Item>
@@ -452,6 +455,45 @@ void tst_SelectionFramePainting::throughAView()
     const QColor edge = at({60, 110});
     QVERIFY(edge == QColor(Qt::white) || edge == QColor(Qt::black));
     QCOMPARE(at({40, 110}), QColor(128, 128, 128));
+}
+
+// A painter that is asked for endless dashes never comes back.
+void tst_SelectionFramePainting::endlessFramesArePainted()
+{
+    constexpr double infinite = std::numeric_limits<double>::infinity();
+    constexpr double none = std::numeric_limits<double>::quiet_NaN();
+    QGraphicsScene scene(0, 0, 300, 200);
+    QGraphicsView view(&scene);
+    view.resize(300, 200);
+    RecordingFrameHandler handler;
+    auto* item = new PlainFrame(&handler);
+    scene.addItem(item);
+    item->SetWorkRect(QRectF(0, 0, 300, 200));
+    for (double far : {1e9, 1e300, infinite, none}) {
+        for (const QRectF& frame :
+             {QRectF(QPointF(20, 30), QPointF(far, far)), QRectF(QPointF(-far, -far), QPointF(far, far)),
+              QRectF(QPointF(far, 30), QPointF(20, 100))}) {
+            item->SetFrameInScene(frame);
+            FrameGestures::press(*item, frame.topLeft());
+            view.grab();
+            QImage canvas(300, 200, QImage::Format_ARGB32_Premultiplied);
+            canvas.fill(Qt::gray);
+            QPainter painter(&canvas);
+            item->paint(&painter, nullptr, nullptr);
+        }
+    }
+
+    // What lies on the picture is there.
+    item->SetFrameInScene(QRectF(QPointF(20, 60), QPointF(1e12, 1e12)));
+    QImage canvas(300, 200, QImage::Format_ARGB32_Premultiplied);
+    canvas.fill(Qt::gray);
+    QPainter painter(&canvas);
+    painter.translate(item->pos());
+    item->paint(&painter, nullptr, nullptr);
+    painter.end();
+    QVERIFY(canvas.pixelColor(20, 150) != QColor(Qt::gray));
+    QVERIFY(canvas.pixelColor(200, 60) != QColor(Qt::gray));
+    QCOMPARE(canvas.pixelColor(200, 150), QColor(Qt::gray));
 }
 
 QTEST_MAIN(tst_SelectionFramePainting)

@@ -1,5 +1,7 @@
 #include <KQt/Ui/SelectionFrameWidget/SelectionFrameCaption.h>
 
+#include <KQt/Ui/SelectionFrameWidget/SelectionFrameGeometry.h>
+
 #include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QObject>
@@ -92,29 +94,31 @@ void CaptionLayout::update(const QString& pattern, const CaptionValues& values, 
 
 void paintFrame(QPainter& painter, const QRectF& rect, bool highlighted)
 {
+    const QRectF outline = paintableRect(rect);
     const QPen savedPen = painter.pen();
     const QBrush savedBrush = painter.brush();
     painter.setBrush(Qt::NoBrush);
     painter.setPen(underPen());
-    painter.drawRect(rect);
+    painter.drawRect(outline);
     painter.setPen(framePen(highlighted));
-    painter.drawRect(rect);
+    painter.drawRect(outline);
     painter.setBrush(savedBrush);
     painter.setPen(savedPen);
 }
 
 void paintCaption(QPainter& painter, const QRectF& rect, const QString& text, const QFont& font)
 {
+    const QRectF box = paintableRect(rect);
     const QFont savedFont = painter.font();
     const QPen savedPen = painter.pen();
     const QBrush savedBrush = painter.brush();
     painter.setFont(font);
     painter.setPen(Qt::darkBlue);
     painter.setBrush(Qt::NoBrush);
-    painter.fillRect(rect, Qt::white);
-    painter.drawText(rect, Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextSingleLine, text);
+    painter.fillRect(box, Qt::white);
+    painter.drawText(box, Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextSingleLine, text);
     painter.setPen(Qt::black);
-    painter.drawRect(rect);
+    painter.drawRect(box);
     painter.setBrush(savedBrush);
     painter.setPen(savedPen);
     painter.setFont(savedFont);

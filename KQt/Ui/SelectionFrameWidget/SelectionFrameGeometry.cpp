@@ -229,15 +229,19 @@ SceneEdges sceneEdges(const QRectF& sceneRect)
     return {sceneRect.left(), sceneRect.top(), sceneRect.right(), sceneRect.bottom()};
 }
 
-QRect alignedRect(const QRectF& rect)
+QRectF paintableRect(const QRectF& rect)
 {
-    constexpr double limit = 1 << 29;
+    constexpr double limit = 1 << 24;
     const auto isWithin = [](double edge) { return edge >= -limit && edge <= limit; };
     if (isWithin(rect.left()) && isWithin(rect.top()) && isWithin(rect.right()) && isWithin(rect.bottom()))
-        return rect.toAlignedRect();
+        return rect;
     const auto cut = [](double edge) { return edge > -limit ? (edge < limit ? edge : limit) : -limit; };
-    return QRectF(QPointF(cut(rect.left()), cut(rect.top())), QPointF(cut(rect.right()), cut(rect.bottom())))
-        .toAlignedRect();
+    return {QPointF(cut(rect.left()), cut(rect.top())), QPointF(cut(rect.right()), cut(rect.bottom()))};
+}
+
+QRect alignedRect(const QRectF& rect)
+{
+    return paintableRect(rect).toAlignedRect();
 }
 
 QPointF cornerPoint(int place, const FrameCorners& frame)

@@ -65,7 +65,11 @@ struct FramePress
 /// Edges of @p sceneRect, inverted where it is.
 KQTUI_EXPORT SceneEdges sceneEdges(const QRectF& sceneRect);
 
-/// @p rect rounded outward to whole units, and cut to what whole numbers can hold with room to spare.
+/// @p rect for a painter: edges farther away than any picture reaches are cut, undefined ones lie outside of it. The
+/// painter would dash an endless line endlessly.
+KQTUI_EXPORT QRectF paintableRect(const QRectF& rect);
+
+/// @p rect rounded outward to whole units, and cut like paintableRect() to what whole numbers can hold.
 KQTUI_EXPORT QRect alignedRect(const QRectF& rect);
 
 // Hit testing

@@ -78,14 +78,14 @@ void SelectionFrameItem::paint(QPainter* painter, const QStyleOptionGraphicsItem
     veil.translate(0, CaptionAllowance);
     painter->setPen(Qt::NoPen);
     painter->setBrush(VeilColour);
-    painter->drawRect(veil);
+    painter->drawRect(Detail::paintableRect(veil));
 
     QRectF hole = frame;
     hole.moveTopLeft({0, CaptionAllowance});
     painter->setBrush(HoleColour);
     // Stays set on purpose: the frame's lines replace what is below them, too.
     painter->setCompositionMode(QPainter::CompositionMode_Source);
-    painter->drawRect(hole);
+    painter->drawRect(Detail::paintableRect(hole));
 
     painter->setBrush(savedBrush);
     painter->setPen(savedPen);
