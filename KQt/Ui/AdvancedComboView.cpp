@@ -1,0 +1,161 @@
+#include <KQt/Ui/AdvancedComboView.h>
+
+#include <KQt/Ui/AdvancedComboBox.h>
+
+#include <QAbstractItemDelegate>
+#include <QEvent>
+#include <QPainter>
+#include <QPaintEvent>
+#include <QScrollBar>
+#include <QStyleOptionComboBox>
+#include <QStyleOptionMenuItem>
+#include <QTimer>
+
+namespace Kestrel::Gui {
+
+AdvancedComboView::AdvancedComboView(AdvancedComboBox* combo, bool widePopup)
+    : m_combo(combo)
+    , m_widePopup(widePopup)
+{
+    if (m_widePopup)
+        setTextElideMode(Qt::ElideNone);
+}
+
+AdvancedComboView::~AdvancedComboView() = default;
+
+void AdvancedComboView::paintEvent(QPaintEvent* event)
+{
+    if (m_combo) {
+        QStyleOptionComboBox comboOption;
+        comboOption.initFrom(m_combo);
+        comboOption.editable = m_combo->isEditable();
+        if (m_combo->style()->styleHint(QStyle::SH_ComboBox_Popup, &comboOption, m_combo)) {
+            QStyleOptionMenuItem menuOption;
+            menuOption.initFrom(this);
+            menuOption.palette = palette();
+            menuOption.state = QStyle::State_None;
+            menuOption.checkType = QStyleOptionMenuItem::NotCheckable;
+            menuOption.menuRect = event->rect();
+            menuOption.maxIconWidth = 0;
+            menuOption.tabWidth = 0;
+            QPainter painter(viewport());
+            m_combo->style()->drawControl(QStyle::CE_MenuEmptyArea, &menuOption, &painter, this);
+        }
+    }
+    QListView::paintEvent(event);
+}
+
+void AdvancedComboView::resizeEvent(QResizeEvent* event)
+{
+    resizeContents(viewport()->width(), contentsSize().height());
+    QListView::resizeEvent(event);
+    if (m_widePopup)
+        setMinimumWidth(widestItem() + scrollBarAllowance());
+}
+
+void AdvancedComboView::changeEvent(QEvent* event)
+{
+    /// Lays the view's items out anew when the event loop deletes it, after the change has been dealt with.
+    class Helper : public QObject
+    {
+    public:
+        explicit Helper(QListView* view)
+            : QObject(view)
+            , m_view(view)
+        {
+        }
+        ~Helper() override
+        {
+            // A view that is being deleted takes its children along when it is a list view no longer.
+            if (auto* view = qobject_cast<QListView*>(m_view.data()))
+                view->setFlow(QListView::TopToBottom);
+        }
+
+    private:
+        QPointer<QObject> m_view;
+    };
+
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        m_measured = false;
+        QTimer::singleShot(0, new Helper(this), &QObject::deleteLater);
+    }
+    QListView::changeEvent(event);
+}
+
+QStyleOptionViewItem AdvancedComboView::viewOptions() const
+{
+    QStyleOptionViewItem option = QListView::viewOptions();
+    option.showDecorationSelected = true;
+    if (m_combo)
+        option.font = m_combo->font();
+    return option;
+}
+
+int AdvancedComboView::scrollBarAllowance() const
+{
+    const QScrollBar* bar = verticalScrollBar();
+    return bar && bar->maximum() != 0 ? bar->width() : 0;
+}
+
+int AdvancedComboView::widestItem()
+{
+    const Measured conditions = currentConditions();
+    if (m_measured && conditions == m_conditions)
+        return m_widestItem;
+
+    m_widestItem = sizeHintForColumn(conditions.column);
+    m_conditions = conditions;
+    m_measured = true;
+    watchForChanges(conditions);
+    return m_widestItem;
+}
+
+AdvancedComboView::Measured AdvancedComboView::currentConditions() const
+{
+    Measured conditions;
+    conditions.model = model();
+    conditions.delegate = itemDelegate();
+    conditions.style = style();
+    conditions.root = rootIndex();
+    conditions.column = m_combo ? m_combo->modelColumn() : modelColumn();
+    conditions.font = viewOptions().font;
+    conditions.iconSize = iconSize();
+    conditions.logicalDpi = logicalDpiX();
+    return conditions;
+}
+
+bool AdvancedComboView::Measured::operator==(const Measured& other) const
+{
+    return model == other.model && delegate == other.delegate && style == other.style && root == other.root &&
+           column == other.column && font == other.font && iconSize == other.iconSize && logicalDpi == other.logicalDpi;
+}
+
+void AdvancedComboView::watchForChanges(const Measured& conditions)
+{
+    for (const QMetaObject::Connection& watch : qAsConst(m_watches))
+        disconnect(watch);
+    m_watches.clear();
+
+    const auto measureAnew = [this] { m_measured = false; };
+    const auto watch = [this, measureAnew](auto* sender, auto signal) {
+        m_watches.append(connect(sender, signal, this, measureAnew));
+    };
+    if (const QAbstractItemModel* items = conditions.model) {
+        watch(items, &QAbstractItemModel::dataChanged);
+        watch(items, &QAbstractItemModel::rowsInserted);
+        watch(items, &QAbstractItemModel::rowsRemoved);
+        watch(items, &QAbstractItemModel::rowsMoved);
+        watch(items, &QAbstractItemModel::columnsInserted);
+        watch(items, &QAbstractItemModel::columnsRemoved);
+        watch(items, &QAbstractItemModel::columnsMoved);
+        watch(items, &QAbstractItemModel::layoutChanged);
+        watch(items, &QAbstractItemModel::modelReset);
+        watch(items, &QObject::destroyed);
+    }
+    if (const QAbstractItemDelegate* delegate = conditions.delegate) {
+        watch(delegate, &QAbstractItemDelegate::sizeHintChanged);
+        watch(delegate, &QObject::destroyed);
+    }
+}
+
+} // namespace Kestrel::Gui

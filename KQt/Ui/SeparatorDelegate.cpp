@@ -1,0 +1,102 @@
+#include <KQt/Ui/SeparatorDelegate.h>
+
+#include <KQt/Ui/SeparatorStyle.h>
+
+#include <QPainter>
+#include <QStandardItem>
+#include <QStyle>
+
+namespace Kestrel::Gui {
+
+namespace {
+
+QString separatorMark()
+{
+    return QStringLiteral("separator");
+}
+
+} // namespace
+
+SeparatorDelegate::SeparatorDelegate(QWidget* parent)
+    : QStyledItemDelegate(parent)
+    , m_style(new SeparatorStyle(parent))
+{
+    // The widget is never shown, and only polishing makes a style sheet set its properties.
+    m_style->style()->polish(m_style.data());
+    m_style->style()->unpolish(m_style.data());
+    m_style->hide();
+}
+
+SeparatorDelegate::~SeparatorDelegate()
+{
+    if (m_style && !m_style->parent())
+        delete m_style;
+}
+
+void SeparatorDelegate::setProxyDelegate(QAbstractItemDelegate* delegate)
+{
+    m_proxyDelegate = delegate;
+}
+
+std::unique_ptr<QStandardItem> SeparatorDelegate::createSeparatorItem()
+{
+    auto item = std::make_unique<QStandardItem>();
+    item->setData(separatorMark(), Qt::AccessibleDescriptionRole);
+    item->setFlags(item->flags() & ~(Qt::ItemIsSelectable | Qt::ItemIsEnabled));
+    return item;
+}
+
+bool SeparatorDelegate::isSeparator(const QModelIndex& index)
+{
+    return index.data(Qt::AccessibleDescriptionRole).toString() == separatorMark();
+}
+
+void SeparatorDelegate::setSeparator(QAbstractItemModel* model, const QModelIndex& index)
+{
+    model->setData(index, separatorMark(), Qt::AccessibleDescriptionRole);
+}
+
+void SeparatorDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    if (isSeparator(index) && m_style)
+        paintSeparator(*painter, option.rect);
+    else if (m_proxyDelegate)
+        m_proxyDelegate->paint(painter, option, index);
+    else
+        QStyledItemDelegate::paint(painter, option, index);
+}
+
+void SeparatorDelegate::paintSeparator(QPainter& painter, const QRect& row) const
+{
+    painter.setPen(QPen(QBrush(m_style->color(), Qt::SolidPattern), m_style->lineWidth(), Qt::SolidLine, Qt::SquareCap,
+                        Qt::BevelJoin));
+    const int y = row.center().y() + m_style->verticalPosition();
+    const int left = row.left() + m_style->marginLeft();
+    const int right = row.right() - m_style->marginRight();
+    if (left < right)
+        painter.drawLine(left, y, right, y);
+}
+
+QSize SeparatorDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    if (!isSeparator(index) || !m_style)
+        return QStyledItemDelegate::sizeHint(option, index);
+    if (m_style->height() >= 1)
+        return {0, m_style->height()};
+    return getNonSeparatorItemSize(option, index);
+}
+
+QSize SeparatorDelegate::getNonSeparatorItemSize(const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    const QAbstractItemModel* model = index.model();
+    for (int row = 0; row < model->rowCount(); ++row) {
+        for (int column = 0; column < model->columnCount(); ++column) {
+            const QModelIndex candidate = model->index(row, column);
+            if (candidate.isValid() && !isSeparator(candidate))
+                return QStyledItemDelegate::sizeHint(option, candidate);
+        }
+    }
+    return QStyledItemDelegate::sizeHint(option, index);
+}
+
+} // namespace Kestrel::Gui
