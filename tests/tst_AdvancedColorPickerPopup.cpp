@@ -138,6 +138,7 @@ private Q_SLOTS:
 
     // User slots.
     void droppedColorReachesOtherPopups();
+    void staleSlotsAreNotStored();
     void dropWithoutColorIsRefused();
     void userSlotsCannotBeDragged();
     void paletteSwatchesCanBeDragged();
@@ -862,6 +863,22 @@ void tst_AdvancedColorPickerPopup::droppedColorReachesOtherPopups()
     const AdvancedColorPickerPopup later;
     for (int i = 0; i < UserSlots; ++i)
         QCOMPARE(userSlotsOf(later).at(i)->color(), i == 3 || i == 8 ? QColor(7, 8, 9) : QColor(Qt::gray));
+}
+
+void tst_AdvancedColorPickerPopup::staleSlotsAreNotStored()
+{
+    // A popup whose checked slot follows its colour stores all its slots, although another popup's are newer.
+    m_popup->setColor(Qt::gray);
+    QVERIFY(userSlots().at(0)->isChecked());
+    AdvancedColorPickerPopup other;
+    QVERIFY(drop(userSlotsOf(other).at(3), *colorData(QColor(7, 8, 9), &other)));
+    m_popup->setColor(QColor(1, 2, 3));
+    m_popup->show();
+    QCOMPARE(userSlots().at(3)->color(), QColor(7, 8, 9));
+    QCOMPARE(userSlots().at(0)->color(), QColor(1, 2, 3));
+    other.show();
+    QCOMPARE(userSlotsOf(other).at(3)->color(), QColor(7, 8, 9));
+    QCOMPARE(userSlotsOf(other).at(0)->color(), QColor(1, 2, 3));
 }
 
 void tst_AdvancedColorPickerPopup::dropWithoutColorIsRefused()

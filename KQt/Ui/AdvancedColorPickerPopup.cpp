@@ -94,6 +94,10 @@ QColor AdvancedColorPickerPopup::color() const
 void AdvancedColorPickerPopup::setColor(const QColor& c)
 {
     const QSignalBlocker silent(this);
+    // A checked slot takes the colour, and with it all slots of this popup are stored: a popup that has not been open for
+    // a while must not store what its slots showed before others changed them.
+    if (!isVisible())
+        showUserGeneratedColors();
     m_color = c;
     updateColoredWidgets();
     updateColorButtons();
@@ -112,10 +116,7 @@ void AdvancedColorPickerPopup::setOpacityAdjustmentAvailable(bool b)
 
 void AdvancedColorPickerPopup::showEvent(QShowEvent* event)
 {
-    for (int i = 0; i < m_userColorButtons.size(); ++i) {
-        const QSignalBlocker silent(m_userColorButtons[i]);
-        m_userColorButtons[i]->setColor(m_userGeneratedColors[i]);
-    }
+    showUserGeneratedColors();
     QFrame::showEvent(event);
 }
 
@@ -226,6 +227,14 @@ void AdvancedColorPickerPopup::updateUserGeneratedColors()
 {
     for (int i = 0; i < m_userColorButtons.size(); ++i)
         m_userGeneratedColors[i] = m_userColorButtons[i]->color();
+}
+
+void AdvancedColorPickerPopup::showUserGeneratedColors()
+{
+    for (int i = 0; i < m_userColorButtons.size(); ++i) {
+        const QSignalBlocker silent(m_userColorButtons[i]);
+        m_userColorButtons[i]->setColor(m_userGeneratedColors[i]);
+    }
 }
 
 void AdvancedColorPickerPopup::updateColorButtons()

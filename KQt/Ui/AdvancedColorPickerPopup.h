@@ -63,6 +63,7 @@ private:
     void createUserSlots();
     void connectForm();
 
+    void showUserGeneratedColors();
     void updateColorButtons();
     void updateColorEdit();
     void updateColorIndicator();

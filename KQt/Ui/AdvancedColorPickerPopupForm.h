@@ -14,13 +14,11 @@ QT_END_NAMESPACE
 
 namespace Kestrel::Gui {
 
-class AdvancedColorPickerPopup;
-
 /// The widgets and layouts of AdvancedColorPickerPopup except its swatches. Members are named like the objects, for the
 /// style sheet refers to them. The popup owns what the record points to.
 struct AdvancedColorPickerPopupForm
 {
-    /// Builds everything on @p popup, with texts, style sheet and the connections between the widgets of the form.
+    /// Builds everything on @p popup, with texts and style sheet. The popup makes the connections.
     explicit AdvancedColorPickerPopupForm(QFrame* popup);
 
     /// Sets the texts in the current language.
