@@ -79,6 +79,13 @@ std::vector<QPointer<WalkthroughHint>> guardedCopy(const Container& hints)
     return {hints.cbegin(), hints.cend()};
 }
 
+template <typename Key, typename Value>
+void removeValue(QMultiMap<Key, Value>& map, const Value& value)
+{
+    for (auto it = map.begin(); it != map.end();)
+        it = it.value() == value ? map.erase(it) : std::next(it);
+}
+
 } // namespace
 
 /// Transitions that wait for one common event and are gone afterwards.
@@ -198,8 +205,11 @@ void WalkthroughController::registerConditions(WalkthroughHint* hint)
 {
     const QStringList conditions = hint->conditionList();
     for (const QString& path : conditions) {
-        m_conditionHints.insert(findOrCreateState(path), hint);
+        QAbstractState* state = findOrCreateState(path);
+        m_conditionHints.insert(state, hint);
         ++m_unmetConditions[hint];
+        if (configuration().contains(state))
+            m_unmetThoughActive.insert(state, hint);
     }
 }
 
@@ -227,8 +237,8 @@ void WalkthroughController::watchLifetime(WalkthroughHint* hint)
 
 void WalkthroughController::forgetHint(WalkthroughHint* hint, const QString& name)
 {
-    for (auto it = m_conditionHints.begin(); it != m_conditionHints.end();)
-        it = it.value() == hint ? m_conditionHints.erase(it) : std::next(it);
+    removeValue(m_conditionHints, hint);
+    removeValue(m_unmetThoughActive, hint);
     m_unmetConditions.remove(hint);
     if (m_shownHints.remove(hint))
         gotoState(name, Finished);
@@ -457,14 +467,21 @@ void WalkthroughController::enteredState()
 
 void WalkthroughController::exitedState()
 {
-    const auto hints = m_conditionHints.values(static_cast<QAbstractState*>(sender()));
-    for (WalkthroughHint* hint : hints)
-        ++m_unmetConditions[hint];
+    auto* state = static_cast<QAbstractState*>(sender());
+    const auto hints = m_conditionHints.values(state);
+    for (WalkthroughHint* hint : hints) {
+        const auto counted = m_unmetThoughActive.find(state, hint);
+        if (counted != m_unmetThoughActive.end())
+            m_unmetThoughActive.erase(counted);
+        else
+            ++m_unmetConditions[hint];
+    }
     m_showTimer.start();
 }
 
 void WalkthroughController::countConditionsAnew()
 {
+    m_unmetThoughActive.clear();
     for (int& unmet : m_unmetConditions)
         unmet = 0;
     for (WalkthroughHint* hint : std::as_const(m_conditionHints))

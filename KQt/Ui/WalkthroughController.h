@@ -162,6 +162,8 @@ private:
     QTimer m_showTimer;
     QWidget* m_avoidWidget = nullptr;
 
+    // Conditions that were registered while their state was active: leaving it makes them no more unmet than they are.
+    QMultiMap<QAbstractState*, WalkthroughHint*> m_unmetThoughActive;
     bool m_addsToStates = false;
     bool m_hasForeignTransitions = false;
     std::vector<QSignalBlocker> m_silence; // of states that are re-entered only for the sake of new groups
