@@ -23,6 +23,10 @@
         <source>Eyedropper</source>
         <translation>قطّارة الألوان</translation>
     </message>
+    <message>
+        <source>Walkthrough</source>
+        <translation>جولة إرشادية</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -131,6 +135,21 @@
     <message>
         <source>Picture is the target</source>
         <translation>الصورة هي الهدف</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::GalleryHint</name>
+    <message>
+        <source>Next</source>
+        <translation>التالي</translation>
+    </message>
+    <message>
+        <source>Not now</source>
+        <translation>ليس الآن</translation>
+    </message>
+    <message>
+        <source>Never again</source>
+        <translation>لا تظهر مجددًا</translation>
     </message>
 </context>
 <context>
@@ -285,6 +304,152 @@
     <message>
         <source>Signals appear here.</source>
         <translation>تظهر الإشارات هنا.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::Tour</name>
+    <message>
+        <source>Welcome to the gallery</source>
+        <translation>مرحبًا بك في المعرض</translation>
+    </message>
+    <message>
+        <source>Every family of components has a page of its own, and all of them are alive. The tour shows you around in a minute.</source>
+        <translation>لكل عائلة من المكونات صفحة خاصة بها، وكلها حية. تعرّفك الجولة على المعرض في دقيقة.</translation>
+    </message>
+    <message>
+        <source>Find a page</source>
+        <translation>العثور على صفحة</translation>
+    </message>
+    <message>
+        <source>Type part of a title. The arrow keys move through the pages that are left.</source>
+        <translation>اكتب جزءًا من العنوان. تنقلك مفاتيح الأسهم بين الصفحات المتبقية.</translation>
+    </message>
+    <message>
+        <source>Dark, and from right to left</source>
+        <translation>داكن، ومن اليمين إلى اليسار</translation>
+    </message>
+    <message>
+        <source>These two switches are one target: the frame goes round both. This hint stays clear of the filter, so that you can go on typing.</source>
+        <translation>هذان المفتاحان هدف واحد: يحيط الإطار بهما معًا. يبقى هذا التلميح بعيدًا عن حقل التصفية لتتمكن من متابعة الكتابة.</translation>
+    </message>
+    <message>
+        <source>In your language</source>
+        <translation>بلغتك</translation>
+    </message>
+    <message>
+        <source>The texts change at once, those of this hint as well. Clicking what a hint points at takes you on, just as Next does.</source>
+        <translation>تتغير النصوص فورًا، ونص هذا التلميح أيضًا. النقر على ما يشير إليه التلميح ينقلك إلى ما بعده، مثل زر التالي.</translation>
+    </message>
+    <message>
+        <source>Open a page</source>
+        <translation>فتح صفحة</translation>
+    </message>
+    <message>
+        <source>Choose &quot;Walkthrough&quot; in the list. The last hint waits for that page to be opened.</source>
+        <translation>اختر «جولة إرشادية» من القائمة. ينتظر التلميح الأخير فتح تلك الصفحة.</translation>
+    </message>
+    <message>
+        <source>How the tour works</source>
+        <translation>كيف تعمل الجولة</translation>
+    </message>
+    <message>
+        <source>A walkthrough is a machine of named states. Here you see another one at work, and can drive it yourself.</source>
+        <translation>الجولة الإرشادية آلة من حالات مسماة. ترى هنا آلة أخرى تعمل، ويمكنك قيادتها بنفسك.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::WalkthroughPage</name>
+    <message>
+        <source>One target</source>
+        <translation>هدف واحد</translation>
+    </message>
+    <message>
+        <source>Press the button, or Next.</source>
+        <translation>اضغط الزر أو التالي.</translation>
+    </message>
+    <message>
+        <source>Two targets</source>
+        <translation>هدفان</translation>
+    </message>
+    <message>
+        <source>Hide one with the switches: the frame follows. Hide both, and the hint goes.</source>
+        <translation>أخفِ أحدهما بالمفاتيح: يتبعه الإطار. أخفِ الاثنين فيختفي التلميح.</translation>
+    </message>
+    <message>
+        <source>A small tour of its own. Start it, hide its targets, or enter a state by double-clicking it: the lists show the machine&apos;s groups, and what each hint still waits for.</source>
+        <translation>جولة صغيرة مستقلة. ابدأها أو أخفِ أهدافها أو ادخل حالة بالنقر المزدوج عليها: تعرض القوائم مجموعات الآلة وما ينتظره كل تلميح.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>حفظ</translation>
+    </message>
+    <message>
+        <source>Left lamp</source>
+        <translation>المصباح الأيسر</translation>
+    </message>
+    <message>
+        <source>Right lamp</source>
+        <translation>المصباح الأيمن</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>المجموعة</translation>
+    </message>
+    <message>
+        <source>Active state</source>
+        <translation>الحالة النشطة</translation>
+    </message>
+    <message>
+        <source>Groups and states</source>
+        <translation>المجموعات والحالات</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>التلميح</translation>
+    </message>
+    <message>
+        <source>Unmet conditions</source>
+        <translation>الشروط غير المستوفاة</translation>
+    </message>
+    <message>
+        <source>Waits for</source>
+        <translation>ينتظر</translation>
+    </message>
+    <message>
+        <source>Hints</source>
+        <translation>التلميحات</translation>
+    </message>
+    <message>
+        <source>Start the tour</source>
+        <translation>بدء الجولة</translation>
+    </message>
+    <message>
+        <source>Stop the tour</source>
+        <translation>إيقاف الجولة</translation>
+    </message>
+    <message>
+        <source>Hints enabled</source>
+        <translation>التلميحات مفعلة</translation>
+    </message>
+    <message>
+        <source>Save is shown</source>
+        <translation>إظهار «حفظ»</translation>
+    </message>
+    <message>
+        <source>Left lamp is shown</source>
+        <translation>إظهار المصباح الأيسر</translation>
+    </message>
+    <message>
+        <source>Right lamp is shown</source>
+        <translation>إظهار المصباح الأيمن</translation>
+    </message>
+    <message>
+        <source>Hints avoid the list of hints</source>
+        <translation>التلميحات تتجنب هذه القائمة</translation>
+    </message>
+    <message>
+        <source>entered %1</source>
+        <translation>دخول %1</translation>
     </message>
 </context>
 </TS>

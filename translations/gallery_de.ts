@@ -23,6 +23,10 @@
         <source>Eyedropper</source>
         <translation>Pipette</translation>
     </message>
+    <message>
+        <source>Walkthrough</source>
+        <translation>Rundgang</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -131,6 +135,21 @@
     <message>
         <source>Picture is the target</source>
         <translation>Bild ist das Ziel</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::GalleryHint</name>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Not now</source>
+        <translation>Jetzt nicht</translation>
+    </message>
+    <message>
+        <source>Never again</source>
+        <translation>Nie wieder</translation>
     </message>
 </context>
 <context>
@@ -285,6 +304,152 @@
     <message>
         <source>Signals appear here.</source>
         <translation>Hier erscheinen Signale.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::Tour</name>
+    <message>
+        <source>Welcome to the gallery</source>
+        <translation>Willkommen in der Galerie</translation>
+    </message>
+    <message>
+        <source>Every family of components has a page of its own, and all of them are alive. The tour shows you around in a minute.</source>
+        <translation>Jede Familie von Bauteilen hat ihre eigene Seite, und alle sind lebendig. Der Rundgang zeigt Ihnen in einer Minute alles.</translation>
+    </message>
+    <message>
+        <source>Find a page</source>
+        <translation>Eine Seite finden</translation>
+    </message>
+    <message>
+        <source>Type part of a title. The arrow keys move through the pages that are left.</source>
+        <translation>Tippen Sie einen Teil des Titels. Mit den Pfeiltasten gehen Sie durch die übrigen Seiten.</translation>
+    </message>
+    <message>
+        <source>Dark, and from right to left</source>
+        <translation>Dunkel und von rechts nach links</translation>
+    </message>
+    <message>
+        <source>These two switches are one target: the frame goes round both. This hint stays clear of the filter, so that you can go on typing.</source>
+        <translation>Diese beiden Schalter sind ein Ziel: Der Rahmen umgibt sie beide. Dieser Hinweis lässt das Filterfeld frei, damit Sie weiter tippen können.</translation>
+    </message>
+    <message>
+        <source>In your language</source>
+        <translation>In Ihrer Sprache</translation>
+    </message>
+    <message>
+        <source>The texts change at once, those of this hint as well. Clicking what a hint points at takes you on, just as Next does.</source>
+        <translation>Die Texte wechseln sofort, auch die dieses Hinweises. Ein Klick auf das, worauf ein Hinweis zeigt, führt weiter, so wie Weiter.</translation>
+    </message>
+    <message>
+        <source>Open a page</source>
+        <translation>Eine Seite öffnen</translation>
+    </message>
+    <message>
+        <source>Choose &quot;Walkthrough&quot; in the list. The last hint waits for that page to be opened.</source>
+        <translation>Wählen Sie „Rundgang“ in der Liste. Der letzte Hinweis wartet, bis diese Seite geöffnet wird.</translation>
+    </message>
+    <message>
+        <source>How the tour works</source>
+        <translation>Wie der Rundgang funktioniert</translation>
+    </message>
+    <message>
+        <source>A walkthrough is a machine of named states. Here you see another one at work, and can drive it yourself.</source>
+        <translation>Ein Rundgang ist eine Maschine aus benannten Zuständen. Hier sehen Sie eine andere bei der Arbeit und können sie selbst steuern.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::WalkthroughPage</name>
+    <message>
+        <source>One target</source>
+        <translation>Ein Ziel</translation>
+    </message>
+    <message>
+        <source>Press the button, or Next.</source>
+        <translation>Drücken Sie die Schaltfläche oder Weiter.</translation>
+    </message>
+    <message>
+        <source>Two targets</source>
+        <translation>Zwei Ziele</translation>
+    </message>
+    <message>
+        <source>Hide one with the switches: the frame follows. Hide both, and the hint goes.</source>
+        <translation>Verbergen Sie eines mit den Schaltern: Der Rahmen folgt. Verbergen Sie beide, verschwindet der Hinweis.</translation>
+    </message>
+    <message>
+        <source>A small tour of its own. Start it, hide its targets, or enter a state by double-clicking it: the lists show the machine&apos;s groups, and what each hint still waits for.</source>
+        <translation>Ein kleiner eigener Rundgang. Starten Sie ihn, verbergen Sie seine Ziele oder betreten Sie einen Zustand mit einem Doppelklick: Die Listen zeigen die Gruppen der Maschine und worauf jeder Hinweis noch wartet.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Left lamp</source>
+        <translation>Linke Lampe</translation>
+    </message>
+    <message>
+        <source>Right lamp</source>
+        <translation>Rechte Lampe</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Active state</source>
+        <translation>Aktiver Zustand</translation>
+    </message>
+    <message>
+        <source>Groups and states</source>
+        <translation>Gruppen und Zustände</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Unmet conditions</source>
+        <translation>Unerfüllte Bedingungen</translation>
+    </message>
+    <message>
+        <source>Waits for</source>
+        <translation>Wartet auf</translation>
+    </message>
+    <message>
+        <source>Hints</source>
+        <translation>Hinweise</translation>
+    </message>
+    <message>
+        <source>Start the tour</source>
+        <translation>Rundgang starten</translation>
+    </message>
+    <message>
+        <source>Stop the tour</source>
+        <translation>Rundgang anhalten</translation>
+    </message>
+    <message>
+        <source>Hints enabled</source>
+        <translation>Hinweise eingeschaltet</translation>
+    </message>
+    <message>
+        <source>Save is shown</source>
+        <translation>Speichern ist zu sehen</translation>
+    </message>
+    <message>
+        <source>Left lamp is shown</source>
+        <translation>Linke Lampe ist zu sehen</translation>
+    </message>
+    <message>
+        <source>Right lamp is shown</source>
+        <translation>Rechte Lampe ist zu sehen</translation>
+    </message>
+    <message>
+        <source>Hints avoid the list of hints</source>
+        <translation>Hinweise meiden ihre Liste</translation>
+    </message>
+    <message>
+        <source>entered %1</source>
+        <translation>%1 betreten</translation>
     </message>
 </context>
 </TS>

@@ -89,6 +89,7 @@ void MainWindow::createMenus()
 void MainWindow::createToolBar()
 {
     m_languageButton = new QToolButton;
+    m_languageButton->setObjectName(QStringLiteral("language"));
     m_languageButton->setMenu(m_languageMenu);
     m_languageButton->setPopupMode(QToolButton::InstantPopup);
     m_languageButton->setFocusPolicy(Qt::TabFocus);

@@ -3,9 +3,11 @@
 #include "LanguageSwitch.h"
 #include "MainWindow.h"
 #include "Screenshots.h"
+#include "Tour.h"
 
 #include <QApplication>
 #include <QFont>
+#include <QSettings>
 #include <QTextStream>
 
 using namespace Gallery;
@@ -58,6 +60,8 @@ int showWindow(const Options& options, LanguageSwitch& language)
 {
     MainWindow window(language);
     present(window, options);
+    QSettings settings(QStringLiteral("KQtUi"), QCoreApplication::applicationName());
+    const Tour tour(window, settings);
     window.show();
     return QApplication::exec();
 }
