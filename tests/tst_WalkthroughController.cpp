@@ -356,6 +356,12 @@ void tst_WalkthroughController::entersFromSlotsOfStates()
     connect(stateOf(controller, "g/b"), &QState::entered, this, [&] { controller.gotoState(str("h/b")); });
     controller.gotoState(str("g/b"));
     QCOMPARE(activePaths(controller), (QStringList{str("g/b"), str("h/b")}));
+    // Of its own group as well.
+    QSignalSpy entered(stateOf(controller, "g/c"), &QState::entered);
+    connect(stateOf(controller, "g/c"), &QState::entered, this, [&] { controller.gotoState(str("g/a")); });
+    controller.gotoState(str("g/c"));
+    QCOMPARE(activePaths(controller), (QStringList{str("g/a"), str("h/b")}));
+    QCOMPARE(entered.count(), 1);
 }
 
 void tst_WalkthroughController::addsOneHintPerPage()

@@ -355,9 +355,13 @@ bool WalkthroughController::eventFilter(QObject* watched, QEvent* event)
     }
     // The machine looks every object up, which costs more than all of the above. It has reason to only for the events
     // of its own transitions, unless the application has given a state transitions for others.
-    if (event->type() == eventType() || m_hasForeignTransitions)
-        return QStateMachine::eventFilter(watched, event);
-    return false;
+    if (event->type() != eventType() && !m_hasForeignTransitions)
+        return false;
+    // The machine watches its states too, so that this is called twice for them. The second time would switch a group
+    // back when a slot of the state has switched it on meanwhile.
+    if (event == m_sentEvent && std::exchange(m_sentEventSeen, true))
+        return false;
+    return QStateMachine::eventFilter(watched, event);
 }
 
 bool WalkthroughController::followEvent(QObject* watched, QEvent* event)
@@ -589,6 +593,8 @@ void WalkthroughController::enter(QAbstractState* state)
         }
     }
     QEvent event(eventType());
+    const QScopedValueRollback<const QEvent*> sent(m_sentEvent, &event);
+    const QScopedValueRollback<bool> seen(m_sentEventSeen, false);
     QCoreApplication::sendEvent(state, &event);
 }
 

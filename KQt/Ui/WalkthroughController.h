@@ -164,6 +164,8 @@ private:
 
     // Conditions that were registered while their state was active: leaving it makes them no more unmet than they are.
     QMultiMap<QAbstractState*, WalkthroughHint*> m_unmetThoughActive;
+    const QEvent* m_sentEvent = nullptr;
+    bool m_sentEventSeen = false;
     bool m_addsToStates = false;
     bool m_hasForeignTransitions = false;
     std::vector<QSignalBlocker> m_silence; // of states that are re-entered only for the sake of new groups
