@@ -335,7 +335,7 @@ QPainterPath SelectionFrameGraphicsItem<T>::shape() const
 template <typename T>
 bool SelectionFrameGraphicsItem<T>::contains(const QPointF& point) const
 {
-    return QGraphicsItem::contains(point);
+    return shape().contains(point);
 }
 
 template <typename T>

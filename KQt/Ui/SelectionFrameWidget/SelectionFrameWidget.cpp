@@ -57,7 +57,8 @@ int scaledAlpha(int pixelAlpha, int alpha)
 // are exact in single precision.
 float alphaFactor(int alpha)
 {
-    return static_cast<float>(alpha * 65536 / 255 + 1) / 65536.0F;
+    const int parts = alpha * 65536 / 255 + 1;
+    return static_cast<float>(parts) / 65536.0F;
 }
 
 // Rows of 32-bit pixels with the alpha in the highest byte, in a form of which compilers do several pixels at a time:

@@ -164,6 +164,7 @@ void TextWatermarkItem::PaintText(QPainter* painter, const QStyleOptionGraphicsI
     const QTransform savedTransform = painter->transform();
 
     painter->translate(0, CaptionAllowance);
+    // The text alone, without the frame. NOLINTNEXTLINE(bugprone-parent-virtual-call)
     QGraphicsTextItem::paint(painter, option, widget);
 
     painter->setTransform(savedTransform);
