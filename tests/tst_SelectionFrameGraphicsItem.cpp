@@ -20,6 +20,7 @@
 #include <limits>
 #include <memory>
 #include <stdexcept>
+#include <type_traits>
 
 using namespace Kestrel::Gui;
 using PlainFrame = ProbeFrame<QGraphicsItem>;
@@ -56,15 +57,16 @@ template struct Unlock<ParentViewFrame, &SelectionFrameGraphicsItem<QGraphicsIte
 template struct Unlock<CursorCheck, &SelectionFrameGraphicsItem<QGraphicsItem>::CheckCursor>;
 template struct Unlock<SelectionFrameRect, &SelectionFrameGraphicsItem<QGraphicsItem>::GetSelectionFrameRect>;
 
-/// Runs @p check for each of the three item classes.
-#define FOR_EVERY_ITEM_CLASS(check)                                                                                    \
-    do {                                                                                                               \
-        check<PlainFrame>();                                                                                           \
-        if (!QTest::currentTestFailed())                                                                               \
-            check<PixmapFrame>();                                                                                      \
-        if (!QTest::currentTestFailed())                                                                               \
-            check<TextFrame>();                                                                                        \
-    } while (false)
+/// Runs @p check with a null pointer to each of the three item classes.
+template <typename Check>
+void forEveryItemClass(const Check& check)
+{
+    check(static_cast<PlainFrame*>(nullptr));
+    if (!QTest::currentTestFailed())
+        check(static_cast<PixmapFrame*>(nullptr));
+    if (!QTest::currentTestFailed())
+        check(static_cast<TextFrame*>(nullptr));
+}
 
 #if !defined(_MSC_VER) && (defined(__x86_64__) || defined(__i386__))
 #define HAS_READABLE_SLOTS
@@ -172,7 +174,7 @@ void tst_SelectionFrameGraphicsItem::checkFresh()
 
 void tst_SelectionFrameGraphicsItem::freshItem()
 {
-    FOR_EVERY_ITEM_CLASS(checkFresh);
+    forEveryItemClass([this](auto* item) { checkFresh<std::remove_pointer_t<decltype(item)>>(); });
 }
 
 void tst_SelectionFrameGraphicsItem::bases()
@@ -217,7 +219,7 @@ void tst_SelectionFrameGraphicsItem::checkNullHandler()
 
 void tst_SelectionFrameGraphicsItem::nullHandlerThrows()
 {
-    FOR_EVERY_ITEM_CLASS(checkNullHandler);
+    forEveryItemClass([this](auto* item) { checkNullHandler<std::remove_pointer_t<decltype(item)>>(); });
 }
 
 void tst_SelectionFrameGraphicsItem::interfacesHaveTheirSlots()
@@ -313,7 +315,7 @@ void tst_SelectionFrameGraphicsItem::checkPlacing()
 
 void tst_SelectionFrameGraphicsItem::placingStepByStep()
 {
-    FOR_EVERY_ITEM_CLASS(checkPlacing);
+    forEveryItemClass([this](auto* item) { checkPlacing<std::remove_pointer_t<decltype(item)>>(); });
 }
 
 void tst_SelectionFrameGraphicsItem::placingFromTwoPointsAndRelative()
@@ -361,7 +363,7 @@ void tst_SelectionFrameGraphicsItem::checkRandomPlacing()
 
 void tst_SelectionFrameGraphicsItem::placingRandomly()
 {
-    FOR_EVERY_ITEM_CLASS(checkRandomPlacing);
+    forEveryItemClass([this](auto* item) { checkRandomPlacing<std::remove_pointer_t<decltype(item)>>(); });
 }
 
 void tst_SelectionFrameGraphicsItem::placingUnderATransformedParent()
@@ -411,7 +413,7 @@ void tst_SelectionFrameGraphicsItem::checkBounds()
 
 void tst_SelectionFrameGraphicsItem::boundingRectCoversTheCaption()
 {
-    FOR_EVERY_ITEM_CLASS(checkBounds);
+    forEveryItemClass([this](auto* item) { checkBounds<std::remove_pointer_t<decltype(item)>>(); });
 }
 
 template <typename Item>
@@ -430,7 +432,7 @@ void tst_SelectionFrameGraphicsItem::checkShape()
 
 void tst_SelectionFrameGraphicsItem::shapeIsTheFrameAlone()
 {
-    FOR_EVERY_ITEM_CLASS(checkShape);
+    forEveryItemClass([this](auto* item) { checkShape<std::remove_pointer_t<decltype(item)>>(); });
 }
 
 void tst_SelectionFrameGraphicsItem::relativeAndAbsolute()
@@ -494,7 +496,7 @@ void tst_SelectionFrameGraphicsItem::checkDegenerate()
 
 void tst_SelectionFrameGraphicsItem::degenerateRectangles()
 {
-    FOR_EVERY_ITEM_CLASS(checkDegenerate);
+    forEveryItemClass([this](auto* item) { checkDegenerate<std::remove_pointer_t<decltype(item)>>(); });
 }
 
 void tst_SelectionFrameGraphicsItem::parentView()

@@ -280,8 +280,8 @@ void tst_SelectionFrameHitZones::checkRandomZones(unsigned seed, int rounds)
         QVERIFY2(cursor == FrameReference::cursorFor(expected, frame),
                  (describe(frame, at) + ": cursor " + QByteArray::number(cursor)).constData());
     }
-    for (int zone = 0; zone < hits.size(); ++zone)
-        QVERIFY2(hits.at(zone) > rounds / 100, "every zone must be among the samples");
+    for (int count : qAsConst(hits))
+        QVERIFY2(count > rounds / 100, "every zone must be among the samples");
 }
 
 void tst_SelectionFrameHitZones::randomZones()
