@@ -35,7 +35,8 @@ QVector<TourPage> pages(int count)
     QVector<TourPage> result;
     for (int i = 0; i < count; ++i) {
         const QString number = QString::number(i);
-        result.append({str("hint") + number, str("target") + number,
+        result.append({str("hint") + number,
+                       str("target") + number,
                        {str("hint") + number + str("/ready"), str("target") + number + str("/active")}});
     }
     return result;
