@@ -495,6 +495,9 @@ void tst_SelectionFrameDragging::mouseRepaints()
     QVERIFY(schedulesRepaint(scene, [&] { FrameGestures::press(*item, QPointF(50, 50)); }));
     QVERIFY(schedulesRepaint(scene, [&] { FrameGestures::release(*item, QPointF(50, 50), Qt::RightButton); }));
     QVERIFY(!schedulesRepaint(scene, [&] { FrameGestures::press(*item, QPointF(150, 150), Qt::RightButton); }));
+    // A move that places nothing, too, as long as the left button is held.
+    QVERIFY(schedulesRepaint(scene, [&] { FrameGestures::move(*item, QPointF(50, 50)); }));
+    QVERIFY(!schedulesRepaint(scene, [&] { FrameGestures::move(*item, QPointF(50, 50), Qt::RightButton); }));
     FrameGestures::release(*item, QPointF(50, 50));
 }
 

@@ -119,6 +119,7 @@ private Q_SLOTS:
     void placingFromTwoPointsAndRelative();
     void placingRandomly();
     void placingUnderATransformedParent();
+    void sceneFollowsTheGrowingFrame();
     void boundingRectCoversTheCaption();
     void shapeIsTheFrameAlone();
     void relativeAndAbsolute();
@@ -409,6 +410,23 @@ void tst_SelectionFrameGraphicsItem::checkBounds()
     // Truncated toward zero: -129 of 1000 is -12 %, not -13 %.
     item.SetFrameInScene(QRectF(-129, -9, 19.9, 1099));
     QCOMPARE(item.boundingRect().width(), captionOf(-12, 0, 1, 109).width());
+}
+
+void tst_SelectionFrameGraphicsItem::sceneFollowsTheGrowingFrame()
+{
+    QGraphicsScene scene(0, 0, 4000, 4000);
+    for (int i = 0; i < 200; ++i)
+        scene.addRect((i % 20) * 200, (i / 20) * 400, 10, 10);
+    RecordingFrameHandler handler;
+    auto* item = new PlainFrame(&handler);
+    scene.addItem(item);
+    item->Initialize(QRectF(0, 0, 4000, 4000), QRectF(100, 100, 50, 50));
+    QCoreApplication::processEvents();
+    QVERIFY(scene.items(QPointF(120, 120)).contains(item));
+    QVERIFY(!scene.items(QPointF(3333, 3333)).contains(item));
+    // Its origin stays; the scene learns of the new size from the item alone.
+    item->SetFrameInScene(QRectF(100, 100, 3800, 3800));
+    QVERIFY(scene.items(QPointF(3333, 3333)).contains(item));
 }
 
 void tst_SelectionFrameGraphicsItem::boundingRectCoversTheCaption()
