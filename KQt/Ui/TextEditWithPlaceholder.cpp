@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QPaintEvent>
 
+#include <utility>
+
 namespace Kestrel::Gui {
 
 TextEditWithPlaceholder::TextEditWithPlaceholder(QWidget* parent)
@@ -34,16 +36,30 @@ void TextEditWithPlaceholder::setPlaceholderText(const QString& text)
 void TextEditWithPlaceholder::paintEvent(QPaintEvent* event)
 {
     QPlainTextEdit::paintEvent(event);
-    if (!wantsPlaceholder())
+    const bool hadPlaceholder = std::exchange(m_showsPlaceholder, wantsPlaceholder());
+    if (!m_showsPlaceholder) {
+        // A new text repaints its own lines alone, and the hint may have had more.
+        if (hadPlaceholder && !event->rect().contains(viewport()->rect()))
+            viewport()->update();
         return;
+    }
 
     const QRect area = placeholderRect();
-    // The viewport shows less than the whole area; asking for more than it can show would ask for ever.
-    const QRect shown = area & viewport()->rect();
-    if (!shown.isEmpty() && !event->rect().contains(shown))
-        viewport()->update(area);
+    completePlaceholder(area, event->rect());
     paintPlaceholder(area);
     event->accept();
+}
+
+void TextEditWithPlaceholder::completePlaceholder(const QRect& area, const QRect& painted)
+{
+    const bool wasAsked = std::exchange(m_askedToComplete, false);
+    // The viewport shows less than the whole area; asking for more than it can show would ask for ever. So would
+    // asking again for what the pass that was asked for did not reach: something lies over it.
+    const QRect shown = area & viewport()->rect();
+    if (wasAsked || shown.isEmpty() || painted.contains(shown))
+        return;
+    m_askedToComplete = true;
+    viewport()->update(area);
 }
 
 bool TextEditWithPlaceholder::wantsPlaceholder() const
@@ -69,6 +85,9 @@ void TextEditWithPlaceholder::paintPlaceholder(const QRect& area)
     color.setAlpha(halfOpaque);
 
     QPainter painter(viewport());
+    // Left is left in every layout: mirrored, the hint would lie at the right of the area, which the viewport clips.
+    if (painter.layoutDirection() == Qt::RightToLeft)
+        painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     const QPen previousPen = painter.pen();
     painter.setPen(color);
     painter.drawText(area, Qt::AlignLeft | Qt::AlignTop, m_placeholderText);
