@@ -1,17 +1,23 @@
 #include <KQt/Ui/AdvancedColorPicker.h>
 #include <KQt/Ui/AdvancedColorPickerPopup.h>
 #include <KQt/Ui/AdvancedSpinBox.h>
+#include <KQt/Ui/AnypointWidgetDrag.h>
 #include <KQt/Ui/ClickableLabel.h>
 #include <KQt/Ui/ClippingTextLineEdit.h>
 #include <KQt/Ui/ColorPickerOpacityAdapter.h>
 #include <KQt/Ui/CustomSliderWithZeroTick.h>
 #include <KQt/Ui/DisableDragAndDropEventFilter.h>
+#include <KQt/Ui/DragDropEventFilter.h>
 #include <KQt/Ui/ExtendedLabel.h>
+#include <KQt/Ui/FontStylePicker.h>
 #include <KQt/Ui/LineStyleComboBox.h>
 #include <KQt/Ui/LineWidthComboBox.h>
 #include <KQt/Ui/PenPicker.h>
+#include <KQt/Ui/PreviewImageLabel.h>
 #include <KQt/Ui/RColorPicker.h>
 #include <KQt/Ui/RColorPickerPopup.h>
+#include <KQt/Ui/StyledDockWidgetTitlebar.h>
+#include <KQt/Ui/TextAlignPicker.h>
 #include <KQt/Ui/TextEditWithPlaceholder.h>
 #include <KQt/Ui/WidgetMouseHandler.h>
 #include <KQt/Ui/WidgetResizeHandler.h>
@@ -40,16 +46,22 @@ void tst_Conventions::metaObjectHasTheQualifiedName_data()
     row("Kestrel::Gui::AdvancedColorPicker", AdvancedColorPicker::staticMetaObject);
     row("Kestrel::Gui::AdvancedColorPickerPopup", AdvancedColorPickerPopup::staticMetaObject);
     row("Kestrel::Gui::AdvancedSpinBox", AdvancedSpinBox::staticMetaObject);
+    row("Kestrel::Gui::AnypointWidgetDrag", AnypointWidgetDrag::staticMetaObject);
     row("Kestrel::Gui::ClickableLabel", ClickableLabel::staticMetaObject);
     row("Kestrel::Gui::ClippingTextLineEdit", ClippingTextLineEdit::staticMetaObject);
     row("Kestrel::Gui::ColorPickerOpacityAdapter", ColorPickerOpacityAdapter::staticMetaObject);
     row("Kestrel::Gui::DisableDragAndDropEventFilter", DisableDragAndDropEventFilter::staticMetaObject);
+    row("Kestrel::Gui::DragDropEventFilter", DragDropEventFilter::staticMetaObject);
     row("Kestrel::Gui::ExtendedLabel", ExtendedLabel::staticMetaObject);
+    row("Kestrel::Gui::FontStylePicker", FontStylePicker::staticMetaObject);
     row("Kestrel::Gui::LineStyleComboBox", LineStyleComboBox::staticMetaObject);
     row("Kestrel::Gui::LineWidthComboBox", LineWidthComboBox::staticMetaObject);
     row("Kestrel::Gui::PenPicker", PenPicker::staticMetaObject);
+    row("Kestrel::Gui::PreviewImageLabel", PreviewImageLabel::staticMetaObject);
     row("Kestrel::Gui::RColorPicker", RColorPicker::staticMetaObject);
     row("Kestrel::Gui::RColorPickerPopup", RColorPickerPopup::staticMetaObject);
+    row("Kestrel::Gui::StyledDockWidgetTitlebar", StyledDockWidgetTitlebar::staticMetaObject);
+    row("Kestrel::Gui::TextAlignPicker", TextAlignPicker::staticMetaObject);
     row("Kestrel::Gui::TextEditWithPlaceholder", TextEditWithPlaceholder::staticMetaObject);
     row("Kestrel::Gui::WidgetMouseHandler", WidgetMouseHandler::staticMetaObject);
     row("Kestrel::Gui::WidgetResizeHandler", WidgetResizeHandler::staticMetaObject);

@@ -28,7 +28,7 @@ DragDropEventFilter::~DragDropEventFilter() = default;
 
 void DragDropEventFilter::InstallDragDropObserver(IDragDropEventFilterObserver* observer)
 {
-    if (!m_observers.contains(observer))
+    if (observer && !m_observers.contains(observer))
         m_observers.append(observer);
 }
 
@@ -93,16 +93,17 @@ bool DragDropEventFilter::judgeDrag(QObject* watched, QDropEvent* event)
         return watched->eventFilter(watched, event);
 
     const QPointer<DragDropEventFilter> self(this);
+    const QPointer<QObject> receiver(watched);
     const QList<QUrl> urls = event->mimeData()->urls();
     for (const QUrl& url : urls) {
         const std::string text = url.toString().toStdString();
         if (self &&
             anyObserver([&text](IDragDropEventFilterObserver* observer) { return observer->CanDropUrl(text); })) {
             acceptProposed(event);
-            return false;
+            return !receiver;
         }
     }
-    return watched->eventFilter(watched, event);
+    return !receiver || watched->eventFilter(watched, event);
 }
 
 bool DragDropEventFilter::DropEvent(QObject* watched, QDropEvent* event)
@@ -111,6 +112,7 @@ bool DragDropEventFilter::DropEvent(QObject* watched, QDropEvent* event)
         return watched->eventFilter(watched, event);
 
     const QPointer<DragDropEventFilter> self(this);
+    const QPointer<QObject> receiver(watched);
     const QList<QUrl> urls = event->mimeData()->urls();
     for (const QUrl& url : urls) {
         const std::string path = url.toLocalFile().toStdString();
@@ -122,7 +124,7 @@ bool DragDropEventFilter::DropEvent(QObject* watched, QDropEvent* event)
         });
     }
     acceptProposed(event);
-    return false;
+    return !receiver; // an observer may have deleted the drop zone: the event must not go on to it then
 }
 
 } // namespace Kestrel::Gui

@@ -22,8 +22,8 @@ class IDragDropEventFilterObserver;
 /// reach the widget; a drag's leaving does not. Whatever the filter has no use for is answered by the watched object's
 /// own eventFilter().
 ///
-/// Observers may install and remove observers, themselves included, from inside their calls. The widget needs
-/// setAcceptDrops(true).
+/// Observers may install and remove observers, themselves included, from inside their calls, and delete the filter or,
+/// when something is dropped, the widget. The widget needs setAcceptDrops(true).
 class KQTUI_EXPORT DragDropEventFilter : public QObject
 {
     Q_OBJECT

@@ -61,9 +61,14 @@ QFont FontStylePicker::apply(const QFont& base)
 void FontStylePicker::setFont(const QFont& font)
 {
     constexpr int boldFrom = 58; // halfway between medium and demi-bold
-    m_buttons.value(BoldKey)->setChecked(font.weight() >= boldFrom);
-    m_buttons.value(ItalicKey)->setChecked(font.style() != QFont::StyleNormal);
-    m_buttons.value(UnderlineKey)->setChecked(font.underline());
+    // Read before the first toggle: a slot of styleChanged() may change the very font that was handed in.
+    const QMap<int, bool> states = {
+        {BoldKey, font.weight() >= boldFrom},
+        {ItalicKey, font.style() != QFont::StyleNormal},
+        {UnderlineKey, font.underline()},
+    };
+    for (auto it = states.cbegin(); it != states.cend(); ++it)
+        m_buttons.value(it.key())->setChecked(it.value());
 }
 
 void FontStylePicker::changeEvent(QEvent* event)
