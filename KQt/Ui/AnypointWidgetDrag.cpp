@@ -14,14 +14,16 @@ AnypointWidgetDrag::~AnypointWidgetDrag() = default;
 
 bool AnypointWidgetDrag::eventFilter(QObject* watched, QEvent* event)
 {
-    Q_UNUSED(watched)
     switch (event->type()) {
     case QEvent::MouseButtonPress:
         StartDrag(static_cast<QMouseEvent*>(event)->globalPos());
         return false;
-    case QEvent::MouseMove:
+    case QEvent::MouseMove: {
+        // Moving the widget may delete what is watched: the event must not go on to it then.
+        const QPointer<QObject> receiver(watched);
         ProcessDrag(static_cast<QMouseEvent*>(event)->globalPos());
-        return false;
+        return watched != receiver;
+    }
     case QEvent::MouseButtonRelease:
         return StopDrag();
     default:
@@ -42,7 +44,10 @@ void AnypointWidgetDrag::ProcessDrag(const QPoint& globalPos)
 {
     if (!m_dragging || !m_widget)
         return;
+    const QPointer<AnypointWidgetDrag> self(this);
     m_widget->move(globalPos - m_offset);
+    if (!self)
+        return;
     constexpr int dragDistance = 11;
     const QPoint way = globalPos - m_pressPosition;
     if (qAbs(way.x()) >= dragDistance || qAbs(way.y()) >= dragDistance)

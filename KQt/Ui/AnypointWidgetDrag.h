@@ -21,7 +21,7 @@ class KQTUI_EXPORT AnypointWidgetDrag : public QObject
 
 public:
     /// @param widget is moved in its parent's coordinates, a window on the screen; not owned.
-    AnypointWidgetDrag(QWidget* widget, QObject* parent = nullptr);
+    explicit AnypointWidgetDrag(QWidget* widget, QObject* parent = nullptr);
     ~AnypointWidgetDrag() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
