@@ -16,7 +16,9 @@ inline bool fontChangeReachesQWidget(QWidget* child)
     child->setParent(&parent);
     child->show();
     parent.show();
-    QCoreApplication::sendPostedEvents();
+    constexpr int rounds = 10; // each layout inside another settles in one of its own
+    for (int i = 0; i < rounds; ++i)
+        QCoreApplication::sendPostedEvents();
     parent.received.clear();
     QEvent change(QEvent::FontChange);
     QCoreApplication::sendEvent(child, &change);
