@@ -97,6 +97,8 @@ private Q_SLOTS:
     void staticToolTipIsLeftAlone();
     void dynamicToolTipTakesEffectAtTheNextUpdate();
     void newFontShowsAtTheNextUpdate();
+    void fontThatComesAfterTheTextIsMeasuredAnew();
+    void textsOfSeveralLengths();
     void resizeThatChangesNothingSetsNothing();
     void textSetBehindItsBackIsReplaced();
     void baseClassSeesResizes();
@@ -328,6 +330,38 @@ void tst_ExtendedLabel::newFontShowsAtTheNextUpdate()
     label.resize(label.width(), 21);
     QVERIFY(label.text() != marked(longText));
     QCOMPARE(label.text(), QFontMetrics(large).elidedText(marked(longText), Qt::ElideRight, label.width()));
+}
+
+void tst_ExtendedLabel::fontThatComesAfterTheTextIsMeasuredAnew()
+{
+    ShownLabel shown;
+    ExtendedLabel& label = shown.label;
+    label.SetOriginalText(longText);
+    for (const int pointSize : {6, 30, 9, 40, 9}) {
+        QFont font = label.font();
+        font.setPointSize(pointSize);
+        label.setFont(font);
+        const QFontMetrics metrics(label.font());
+        const int whole = metrics.horizontalAdvance(marked(longText));
+        for (const int width : {whole * 2, whole + 1, whole, whole - 1, whole / 2}) {
+            label.resize(width, 60);
+            QCOMPARE(label.text(), metrics.elidedText(marked(longText), Qt::ElideRight, width));
+        }
+    }
+}
+
+void tst_ExtendedLabel::textsOfSeveralLengths()
+{
+    // Qt's separator between the variants of a text, of which metrics choose the longest that fits.
+    const QString variants = QStringLiteral("a long variant") + QChar(0x9c) + QStringLiteral("short");
+    ShownLabel shown;
+    ExtendedLabel& label = shown.label;
+    label.SetOriginalText(variants);
+    const QFontMetrics metrics(label.font());
+    for (int width = widthOf(variants) * 2; width > 0; --width) {
+        label.resize(width, 20);
+        QCOMPARE(label.text(), metrics.elidedText(marked(variants), Qt::ElideRight, width));
+    }
 }
 
 void tst_ExtendedLabel::resizeThatChangesNothingSetsNothing()

@@ -4,12 +4,15 @@
 
 #include <QPointer>
 
+#include <limits>
+
 namespace Kestrel::Gui {
 
 const std::string ExtendedLabel::CLICKABLE = "clickable";
 
 ExtendedLabel::ExtendedLabel(QWidget* parent)
     : QLabel(parent)
+    , m_measuredFont(fontMetrics())
 {
 }
 
@@ -23,6 +26,7 @@ QString ExtendedLabel::GetOriginalText() const
 void ExtendedLabel::SetOriginalText(const QString& text)
 {
     m_originalText = Detail::withDirectionalMarks(text);
+    m_wholeWidth = notMeasured;
     updateViewText();
 }
 
@@ -67,8 +71,7 @@ void ExtendedLabel::SetElideMode(Qt::TextElideMode mode)
 
 void ExtendedLabel::updateViewText()
 {
-    m_viewText =
-        m_clipText ? fontMetrics().elidedText(m_originalText, m_elideMode, width() - 2 * frameWidth()) : m_originalText;
+    m_viewText = m_clipText ? elidedText(width() - 2 * frameWidth()) : m_originalText;
     // Most resizes leave the text as it is: setting it anew would lay out the label and its surroundings each time.
     if (text() != m_viewText)
         setText(m_viewText);
@@ -77,6 +80,27 @@ void ExtendedLabel::updateViewText()
     const QString tip = m_viewText == m_originalText ? QString() : m_originalText;
     if (toolTip() != tip)
         setToolTip(tip);
+}
+
+QString ExtendedLabel::elidedText(int available)
+{
+    // Measured once, a text that fits costs next to nothing at each resize. The width is rounded: where it is just
+    // reached, the metrics have the last word.
+    if (available > wholeWidth())
+        return m_originalText;
+    return m_measuredFont.elidedText(m_originalText, m_elideMode, available);
+}
+
+int ExtendedLabel::wholeWidth()
+{
+    constexpr QChar variantSeparator(0x9c); // metrics choose among such texts even where the longest fits
+    const QFontMetrics metrics = fontMetrics();
+    if (m_wholeWidth == notMeasured || m_measuredFont != metrics) {
+        m_measuredFont = metrics;
+        m_wholeWidth = m_originalText.contains(variantSeparator) ? std::numeric_limits<int>::max()
+                                                                 : metrics.horizontalAdvance(m_originalText);
+    }
+    return m_wholeWidth;
 }
 
 void ExtendedLabel::mousePressEvent(QMouseEvent* event)

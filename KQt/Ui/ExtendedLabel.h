@@ -2,6 +2,7 @@
 
 #include <KQt/Ui/Export.h>
 
+#include <QFontMetrics>
 #include <QLabel>
 
 #include <string>
@@ -62,6 +63,8 @@ protected:
 
 private:
     void updateViewText();
+    QString elidedText(int available);
+    int wholeWidth();
 
     QString m_originalText; // with directional marks
     QString m_viewText;
@@ -69,6 +72,10 @@ private:
     bool m_clickable = true;
     bool m_dynamicTooltip = true;
     Qt::TextElideMode m_elideMode = Qt::ElideRight;
+
+    static constexpr int notMeasured = -1;
+    int m_wholeWidth = notMeasured; // of the original text, in the font of m_measuredFont
+    QFontMetrics m_measuredFont;
 };
 
 } // namespace Kestrel::Gui
