@@ -1,5 +1,6 @@
 #include <KQt/Ui/AdvancedColorPicker.h>
 #include <KQt/Ui/AdvancedColorPickerPopup.h>
+#include <KQt/Ui/AdvancedComboBox.h>
 #include <KQt/Ui/AdvancedSpinBox.h>
 #include <KQt/Ui/AnypointWidgetDrag.h>
 #include <KQt/Ui/ClickableLabel.h>
@@ -12,10 +13,14 @@
 #include <KQt/Ui/FontStylePicker.h>
 #include <KQt/Ui/LineStyleComboBox.h>
 #include <KQt/Ui/LineWidthComboBox.h>
+#include <KQt/Ui/NoWheelComboBox.h>
 #include <KQt/Ui/PenPicker.h>
+#include <KQt/Ui/PresetComboBox.h>
 #include <KQt/Ui/PreviewImageLabel.h>
 #include <KQt/Ui/RColorPicker.h>
 #include <KQt/Ui/RColorPickerPopup.h>
+#include <KQt/Ui/SeparatorDelegate.h>
+#include <KQt/Ui/SeparatorStyle.h>
 #include <KQt/Ui/StyledDockWidgetTitlebar.h>
 #include <KQt/Ui/TextAlignPicker.h>
 #include <KQt/Ui/TextEditWithPlaceholder.h>
@@ -45,6 +50,7 @@ void tst_Conventions::metaObjectHasTheQualifiedName_data()
     using namespace Kestrel::Gui;
     row("Kestrel::Gui::AdvancedColorPicker", AdvancedColorPicker::staticMetaObject);
     row("Kestrel::Gui::AdvancedColorPickerPopup", AdvancedColorPickerPopup::staticMetaObject);
+    row("Kestrel::Gui::AdvancedComboBox", AdvancedComboBox::staticMetaObject);
     row("Kestrel::Gui::AdvancedSpinBox", AdvancedSpinBox::staticMetaObject);
     row("Kestrel::Gui::AnypointWidgetDrag", AnypointWidgetDrag::staticMetaObject);
     row("Kestrel::Gui::ClickableLabel", ClickableLabel::staticMetaObject);
@@ -56,10 +62,14 @@ void tst_Conventions::metaObjectHasTheQualifiedName_data()
     row("Kestrel::Gui::FontStylePicker", FontStylePicker::staticMetaObject);
     row("Kestrel::Gui::LineStyleComboBox", LineStyleComboBox::staticMetaObject);
     row("Kestrel::Gui::LineWidthComboBox", LineWidthComboBox::staticMetaObject);
+    row("Kestrel::Gui::NoWheelComboBox", NoWheelComboBox::staticMetaObject);
     row("Kestrel::Gui::PenPicker", PenPicker::staticMetaObject);
+    row("Kestrel::Gui::PresetComboBox", PresetComboBox::staticMetaObject);
     row("Kestrel::Gui::PreviewImageLabel", PreviewImageLabel::staticMetaObject);
     row("Kestrel::Gui::RColorPicker", RColorPicker::staticMetaObject);
     row("Kestrel::Gui::RColorPickerPopup", RColorPickerPopup::staticMetaObject);
+    row("Kestrel::Gui::SeparatorDelegate", SeparatorDelegate::staticMetaObject);
+    row("Kestrel::Gui::SeparatorStyle", SeparatorStyle::staticMetaObject);
     row("Kestrel::Gui::StyledDockWidgetTitlebar", StyledDockWidgetTitlebar::staticMetaObject);
     row("Kestrel::Gui::TextAlignPicker", TextAlignPicker::staticMetaObject);
     row("Kestrel::Gui::TextEditWithPlaceholder", TextEditWithPlaceholder::staticMetaObject);

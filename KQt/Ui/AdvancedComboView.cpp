@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QPaintEvent>
 #include <QScrollBar>
+#include <QSet>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionMenuItem>
 #include <QTimer>
@@ -114,20 +115,32 @@ AdvancedComboView::Measured AdvancedComboView::currentConditions() const
 {
     Measured conditions;
     conditions.model = model();
-    conditions.delegate = itemDelegate();
     conditions.style = style();
     conditions.root = rootIndex();
     conditions.column = m_combo ? m_combo->modelColumn() : modelColumn();
+    conditions.delegates = currentDelegates(conditions.column);
     conditions.font = viewOptions().font;
+    conditions.locale = locale();
     conditions.iconSize = iconSize();
     conditions.logicalDpi = logicalDpiX();
     return conditions;
 }
 
+// The view's own, the column's and each row's.
+QVector<const QAbstractItemDelegate*> AdvancedComboView::currentDelegates(int column) const
+{
+    QVector<const QAbstractItemDelegate*> delegates = {itemDelegate(), itemDelegateForColumn(column)};
+    const int rows = model() ? model()->rowCount(rootIndex()) : 0;
+    for (int row = 0; row < rows; ++row)
+        delegates.append(itemDelegateForRow(row));
+    return delegates;
+}
+
 bool AdvancedComboView::Measured::operator==(const Measured& other) const
 {
-    return model == other.model && delegate == other.delegate && style == other.style && root == other.root &&
-           column == other.column && font == other.font && iconSize == other.iconSize && logicalDpi == other.logicalDpi;
+    return model == other.model && delegates == other.delegates && style == other.style && root == other.root &&
+           column == other.column && font == other.font && locale == other.locale && iconSize == other.iconSize &&
+           logicalDpi == other.logicalDpi;
 }
 
 void AdvancedComboView::watchForChanges(const Measured& conditions)
@@ -152,7 +165,10 @@ void AdvancedComboView::watchForChanges(const Measured& conditions)
         watch(items, &QAbstractItemModel::modelReset);
         watch(items, &QObject::destroyed);
     }
-    if (const QAbstractItemDelegate* delegate = conditions.delegate) {
+    const QSet<const QAbstractItemDelegate*> delegates(conditions.delegates.begin(), conditions.delegates.end());
+    for (const QAbstractItemDelegate* delegate : delegates) {
+        if (!delegate)
+            continue;
         watch(delegate, &QAbstractItemDelegate::sizeHintChanged);
         watch(delegate, &QObject::destroyed);
     }

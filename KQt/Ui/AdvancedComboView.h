@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QListView>
+#include <QLocale>
 #include <QPersistentModelIndex>
 #include <QPointer>
 #include <QVector>
@@ -31,11 +32,12 @@ private:
     struct Measured
     {
         const QAbstractItemModel* model = nullptr;
-        const QAbstractItemDelegate* delegate = nullptr;
+        QVector<const QAbstractItemDelegate*> delegates;
         const QStyle* style = nullptr;
         QPersistentModelIndex root;
         int column = 0;
         QFont font;
+        QLocale locale;
         QSize iconSize;
         int logicalDpi = 0;
 
@@ -43,6 +45,7 @@ private:
     };
 
     Measured currentConditions() const;
+    QVector<const QAbstractItemDelegate*> currentDelegates(int column) const;
     int widestItem();
     void watchForChanges(const Measured& conditions);
     int scrollBarAllowance() const;
