@@ -225,6 +225,7 @@ private Q_SLOTS:
     void leavesByEvent();
     void leavesWhenPartlyOutside();
     void leavingKeepsTheOthers();
+    void othersKeepTheirMasks();
 
     void invalidFrameThrows_data();
     void invalidFrameThrows();
@@ -256,7 +257,10 @@ void tst_WidgetRenderer::cleanup()
 
 void tst_WidgetRenderer::isPartOfTheMetaObjectSystem()
 {
-    QCOMPARE(WidgetRenderer::staticMetaObject.className(), "Kestrel::Gui::WidgetRenderer");
+    const QMetaObject& meta = WidgetRenderer::staticMetaObject;
+    QCOMPARE(meta.className(), "Kestrel::Gui::WidgetRenderer");
+    QCOMPARE(meta.superClass()->className(), "QObject");
+    QCOMPARE(meta.methodCount() - meta.methodOffset(), 1);
     QWidget tracked;
     WidgetRenderer renderer(&tracked, nullptr);
     QVERIFY(QMetaObject::invokeMethod(&renderer, "ChangeRendererFrame", Q_ARG(QRect, QRect(10, 20, 30, 40))));
@@ -980,6 +984,28 @@ void tst_WidgetRenderer::leavingKeepsTheOthers()
     QCOMPARE(first->paints, 2);
     QVERIFY(isTakenOver(first));
     QCOMPARE(pixel(renderer, stage.mapToGlobal(QPoint(3, 4))), Probe::colorAt(1, QPoint(3, 4)));
+}
+
+// What was never taken over has nothing to be taken back, and may have a mask of the application's.
+void tst_WidgetRenderer::othersKeepTheirMasks()
+{
+    Stage stage;
+    Probe* probe = stage.addProbe(1, QRect(0, 0, 30, 20));
+    const QRegion mask(2, 3, 10, 10);
+    probe->setMask(mask);
+    probe->setAttribute(Qt::WA_MouseNoMask, true);
+    QWidget tracked;
+    WidgetRenderer renderer(&tracked, nullptr);
+    renderer.ChangeRendererFrame(QRect(seenRect(probe).topLeft(), QSize(29, 20))); // a pixel too narrow
+    probe->show();
+    probe->move(1, 1);
+    probe->resize(31, 21);
+    sendPlain(probe, QEvent::ZOrderChange);
+    probe->close();
+    sendHide(probe);
+    QCOMPARE(probe->mask(), mask);
+    QVERIFY(probe->testAttribute(Qt::WA_MouseNoMask));
+    QVERIFY(renderer.GetMaskImage().isNull());
 }
 
 void tst_WidgetRenderer::invalidFrameThrows_data()
