@@ -97,8 +97,10 @@ public:
 
     void clear()
     {
-        for (const QPointer<QWidget>& window : m_windows)
-            delete window;
+        for (const auto* widgets : {&m_windows, &m_targets, &m_avoidWidgets}) {
+            for (const QPointer<QWidget>& widget : *widgets)
+                delete widget;
+        }
     }
 
 private:
@@ -165,8 +167,7 @@ void tst_WalkthroughChaos::randomSteps()
             break;
         case 5: { // into another window, or out of any
             QWidget* parent = playground.below(6) == 0 ? nullptr : playground.anyWindow();
-            widget = playground.anyTarget();
-            if (parent) {
+            if (parent != widget && !(parent && widget->isAncestorOf(parent))) {
                 widget->setParent(parent);
                 widget->show();
             }
