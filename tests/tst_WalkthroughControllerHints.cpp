@@ -68,6 +68,7 @@ private Q_SLOTS:
     void conditionListedTwiceCountsTwice();
     void conditionNobodyEntersHidesForEver();
     void aBurstIsEvaluatedOnce();
+    void everyChangeStartsTheWaitAnew();
     void startsOverAllTargets();
     void passesTheAvoidWidget();
     void needsATarget();
@@ -339,6 +340,41 @@ void tst_WalkthroughControllerHints::aBurstIsEvaluatedOnce()
     QVERIFY(timer->isActive());
     QTRY_COMPARE(evaluated.count(), 1);
     QCOMPARE(tour.record->log, QStringList{str("start hint")});
+}
+
+void tst_WalkthroughControllerHints::everyChangeStartsTheWaitAnew()
+{
+    WalkthroughController controller;
+    controller.findOrCreateState(str("own/a"));
+    QTRY_VERIFY(controller.isRunning());
+    auto* timer = controller.findChild<QTimer*>(QString(), Qt::FindDirectChildrenOnly);
+    QVERIFY(timer);
+    QSignalSpy evaluated(timer, &QTimer::timeout);
+    // Changes for longer than the wait lasts. A machine under load may take a break of its own in between; then again.
+    bool wasQuick = false;
+    for (int attempt = 0; attempt < 20 && !wasQuick; ++attempt) {
+        controller.gotoState(str("own/b"));
+        controller.gotoState(str("own/a"));
+        evaluated.clear();
+        qint64 longestGap = 0;
+        QElapsedTimer whole;
+        whole.start();
+        while (whole.elapsed() < 3 * timer->interval()) {
+            QElapsedTimer gap;
+            gap.start();
+            controller.gotoState(str("own/a"));
+            controller.gotoState(str("own/b"));
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
+            QThread::msleep(1);
+            longestGap = qMax(longestGap, gap.elapsed());
+        }
+        wasQuick = longestGap < timer->interval() / 2;
+        if (wasQuick)
+            QCOMPARE(evaluated.count(), 0);
+    }
+    if (!wasQuick)
+        QSKIP("the machine is too slow to change states quickly");
+    QTRY_COMPARE(evaluated.count(), 1);
 }
 
 void tst_WalkthroughControllerHints::startsOverAllTargets()

@@ -104,7 +104,8 @@ public:
 
     /// Switches all hints off (their groups enter "disabled", shown ones are finished) or on ("ready", also for those
     /// that were finished before). Does nothing when isEnabled() says so already. All groups are switched in one step
-    /// of the machine. Before the machine runs the wish is kept and fulfilled when it starts.
+    /// of the machine. Before the machine runs the wish is kept and fulfilled when it starts; switching on cannot take
+    /// it back until then, for isEnabled() is still true.
     Q_INVOKABLE void setEnabled(bool enable);
 
     /// A widget that hints started from now on must not cover; null for none. It is borrowed.
