@@ -3,6 +3,7 @@
 
 #include "support/OnceTrue.h"
 #include "support/PixelBoard.h"
+#include "support/WarningCatcher.h"
 
 #include <QGuiApplication>
 #include <QMetaMethod>
@@ -16,11 +17,13 @@
 #include <QtTest>
 
 #include <memory>
+#include <stdexcept>
 
 using Kestrel::Gui::HighlightFrame;
 using Kestrel::Gui::WidgetColorPicker;
 using TestSupport::onceTrue;
 using TestSupport::PixelBoard;
+using TestSupport::WarningCatcher;
 
 Q_DECLARE_METATYPE(Qt::MouseButton)
 
@@ -66,7 +69,7 @@ struct Scene
     QColor expectedAt(const QPoint& position) const
     {
         const qreal ratio = window.devicePixelRatioF();
-        return PixelBoard::colorAt(int(position.x() * ratio), int(position.y() * ratio));
+        return PixelBoard::colorAt(qRound(position.x() * ratio), qRound(position.y() * ratio));
     }
 
     bool ready = false;
@@ -79,6 +82,7 @@ class tst_WidgetColorPicker : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    static void initMain();
     void init();
     void cleanup();
     void metaObject();
@@ -101,6 +105,10 @@ private Q_SLOTS:
     void secondPickGivesNoColor();
     void pickFromTheEndingPressGivesNoColor();
     void lastWindowClosedEnds();
+    void quittingTheApplicationEnds();
+    void throwingSlotUndoesEverything();
+    void overrideCursorOfTheApplicationStays();
+    void withoutAPictureOfTheScreenTheWindowIsRead();
     void targetDeletedWhilePicking();
     void targetParentDeletedWhilePicking();
     void swallowWidgetDeletedWhilePicking();
@@ -110,6 +118,12 @@ private Q_SLOTS:
     void translucentWindowOnTopGivesAnOpaqueColor();
     void realPointerPicksTheExactPixel();
 };
+
+void tst_WidgetColorPicker::initMain()
+{
+    // Exceptions have to pass through the event loop here, and must not pass through a C library's.
+    qputenv("QT_NO_GLIB", "1");
+}
 
 void tst_WidgetColorPicker::init()
 {
@@ -358,6 +372,82 @@ void tst_WidgetColorPicker::lastWindowClosedEnds()
     qApp->setQuitOnLastWindowClosed(true);
 }
 
+void tst_WidgetColorPicker::quittingTheApplicationEnds()
+{
+    Scene scene;
+    QColor color;
+    QTimer::singleShot(0, &scene.window, [&] {
+        color = scene.pick(QPoint(8, 9), [&] {
+            QMouseEvent move = mouseEvent(QEvent::MouseMove, scene.board->mapToGlobal(QPoint(8, 9)), Qt::NoButton);
+            QCoreApplication::sendEvent(scene.board, &move);
+            QVERIFY(QGuiApplication::overrideCursor());
+            QCoreApplication::quit();
+        });
+        QVERIFY(!QGuiApplication::overrideCursor());
+        QVERIFY(!scene.window.findChild<HighlightFrame*>());
+    });
+    QCoreApplication::exec();
+    QCOMPARE(color, scene.expectedAt(QPoint(8, 9))); // as every other end
+}
+
+void tst_WidgetColorPicker::throwingSlotUndoesEverything()
+{
+    Scene scene;
+    bool thrown = false;
+    const WarningCatcher qtComplains;
+    try {
+        scene.pick(QPoint(8, 9), [&] {
+            QMouseEvent move = mouseEvent(QEvent::MouseMove, scene.board->mapToGlobal(QPoint(8, 9)), Qt::NoButton);
+            QCoreApplication::sendEvent(scene.board, &move);
+            QVERIFY(QGuiApplication::overrideCursor());
+            throw std::runtime_error("slot");
+        });
+    } catch (const std::runtime_error&) {
+        thrown = true;
+    }
+    QVERIFY(thrown);
+    QVERIFY(!QGuiApplication::overrideCursor());
+    QVERIFY(!scene.picker.pickingInProgress());
+    QVERIFY(!scene.window.findChild<HighlightFrame*>());
+    QMouseEvent move = mouseEvent(QEvent::MouseMove, scene.board->mapToGlobal(QPoint(8, 9)), Qt::NoButton);
+    QCoreApplication::sendEvent(scene.board, &move);
+    QVERIFY(!QGuiApplication::overrideCursor()); // the filter is gone
+    QCOMPARE(scene.pick(QPoint(8, 9), [&] { scene.picker.stop(); }), scene.expectedAt(QPoint(8, 9)));
+}
+
+void tst_WidgetColorPicker::overrideCursorOfTheApplicationStays()
+{
+    Scene scene;
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto endOver = [&scene](const QPoint& at) {
+        scene.pick(at, [&scene, at] {
+            QMouseEvent move = mouseEvent(QEvent::MouseMove, scene.board->mapToGlobal(at), Qt::NoButton);
+            QCoreApplication::sendEvent(scene.board, &move);
+            scene.picker.stop();
+            scene.picker.stop(); // a second time takes no more away
+        });
+    };
+    for (const QPoint& at : {QPoint(8, 9), QPoint(300, 9)}) {
+        endOver(at);
+        QVERIFY(QGuiApplication::overrideCursor());
+        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    }
+    QGuiApplication::restoreOverrideCursor();
+}
+
+void tst_WidgetColorPicker::withoutAPictureOfTheScreenTheWindowIsRead()
+{
+    if (onDisplay())
+        QSKIP("needs a window system that gives no picture, as the offscreen one where nothing is shown");
+    Scene scene;
+    scene.window.hide();
+    for (const QPoint& at : {QPoint(8, 9), QPoint(199, 99)}) {
+        const QColor color = scene.pick(at, [&] { scene.picker.stop(); });
+        QCOMPARE(color, scene.expectedAt(at));
+        QCOMPARE(color.alpha(), 255);
+    }
+}
+
 void tst_WidgetColorPicker::targetDeletedWhilePicking()
 {
     Scene scene;
@@ -466,7 +556,8 @@ void tst_WidgetColorPicker::realPointerPicksTheExactPixel()
     const qreal ratio = scene.window.devicePixelRatioF();
     const QPoint origin = scene.board->mapToGlobal(QPoint(0, 0)) * ratio;
     // Odd device pixels too: at ratio 2 one unit is four pixels of different colours.
-    for (const QPoint& pixel : {QPoint(31, 41), QPoint(32, 41), QPoint(31, 42), QPoint(90, 80)}) {
+    for (const QPoint& pixel : {QPoint(31, 41), QPoint(32, 41), QPoint(31, 42), QPoint(33, 40), QPoint(34, 43),
+                                QPoint(35, 44), QPoint(90, 80)}) {
         const QPoint native = origin + pixel;
         onceTrue([&] { return scene.picker.pickingInProgress(); },
                  [native] {

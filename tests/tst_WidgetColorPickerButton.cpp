@@ -5,6 +5,7 @@
 #include "support/OnceTrue.h"
 #include "support/PixelBoard.h"
 #include "support/Render.h"
+#include "support/WarningCatcher.h"
 
 #include <QGuiApplication>
 #include <QMetaMethod>
@@ -18,6 +19,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <stdexcept>
 
 using Kestrel::Gui::HighlightFrame;
 using Kestrel::Gui::WidgetColorPicker;
@@ -25,6 +27,7 @@ using Kestrel::Gui::WidgetColorPickerButton;
 using TestSupport::onceTrue;
 using TestSupport::PixelBoard;
 using TestSupport::render;
+using TestSupport::WarningCatcher;
 
 namespace {
 
@@ -55,7 +58,7 @@ struct Scene
     QColor expected() const
     {
         const qreal ratio = window.devicePixelRatioF();
-        return PixelBoard::colorAt(int(33 * ratio), int(44 * ratio));
+        return PixelBoard::colorAt(qRound(33 * ratio), qRound(44 * ratio));
     }
     HighlightFrame* ownFrame() const
     {
@@ -83,6 +86,7 @@ class tst_WidgetColorPickerButton : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    static void initMain();
     void metaObject();
     void defaults();
     void enabledWithATargetOnly();
@@ -96,6 +100,10 @@ private Q_SLOTS:
     void framesItselfWhilePicking();
     void noFrameWithoutSelfColor();
     void secondStartDoesNothing();
+    void startFromPickingStartedDoesNothing();
+    void startFromPickingFinishedPicksAgain();
+    void throwingSlotTakesTheFrameAway_data();
+    void throwingSlotTakesTheFrameAway();
     void clickOnTheButtonEndsAndDoesNotRestart();
     void buttonDeletedWhilePicking();
     void targetDeletedWhilePicking();
@@ -103,6 +111,12 @@ private Q_SLOTS:
     void deletedFromItsSignals();
     void realClickOnTheButtonItself();
 };
+
+void tst_WidgetColorPickerButton::initMain()
+{
+    // Exceptions have to pass through the event loop here, and must not pass through a C library's.
+    qputenv("QT_NO_GLIB", "1");
+}
 
 void tst_WidgetColorPickerButton::metaObject()
 {
@@ -293,6 +307,71 @@ void tst_WidgetColorPickerButton::secondStartDoesNothing()
     });
     scene.button->startPicking();
     QCOMPARE(started.count(), 1);
+}
+
+void tst_WidgetColorPickerButton::startFromPickingStartedDoesNothing()
+{
+    Scene scene;
+    QSignalSpy started(scene.button, &WidgetColorPickerButton::pickingStarted);
+    connect(scene.button, &WidgetColorPickerButton::pickingStarted, this, [&] {
+        if (started.count() < 5) // would go on for ever
+            scene.button->startPicking();
+    });
+    scene.whilePicking([&] { scene.button->stopPicking(); });
+    scene.button->startPicking();
+    QCOMPARE(started.count(), 1);
+    QCOMPARE(scene.button->color(), scene.expected());
+}
+
+void tst_WidgetColorPickerButton::startFromPickingFinishedPicksAgain()
+{
+    Scene scene;
+    QSignalSpy started(scene.button, &WidgetColorPickerButton::pickingStarted);
+    QSignalSpy changed(scene.button, &WidgetColorPickerButton::colorChanged);
+    connect(scene.button, &WidgetColorPickerButton::pickingFinished, this, [&] {
+        if (started.count() > 1)
+            return;
+        scene.whilePicking([&] { scene.button->stopPicking(); });
+        scene.button->startPicking();
+    });
+    scene.whilePicking([&] { scene.button->stopPicking(); });
+    scene.button->startPicking();
+    QCOMPARE(started.count(), 2);
+    QCOMPARE(changed.count(), 2);
+    QVERIFY(scene.window.findChildren<HighlightFrame*>().isEmpty());
+}
+
+void tst_WidgetColorPickerButton::throwingSlotTakesTheFrameAway_data()
+{
+    QTest::addColumn<bool>("whilePicking");
+    QTest::newRow("while picking") << true;
+    QTest::newRow("when picking starts") << false;
+}
+
+void tst_WidgetColorPickerButton::throwingSlotTakesTheFrameAway()
+{
+    QFETCH(bool, whilePicking);
+    Scene scene;
+    const WarningCatcher qtComplains;
+    const auto fail = [] { throw std::runtime_error("slot"); };
+    QMetaObject::Connection connection;
+    if (whilePicking)
+        scene.whilePicking(fail);
+    else
+        connection = connect(scene.button, &WidgetColorPickerButton::pickingStarted, this, fail);
+    bool thrown = false;
+    try {
+        scene.button->startPicking();
+    } catch (const std::runtime_error&) {
+        thrown = true;
+    }
+    QVERIFY(thrown);
+    QVERIFY(scene.window.findChildren<HighlightFrame*>().isEmpty());
+
+    disconnect(connection);
+    scene.whilePicking([&] { scene.button->stopPicking(); });
+    scene.button->startPicking();
+    QCOMPARE(scene.button->color(), scene.expected());
 }
 
 void tst_WidgetColorPickerButton::clickOnTheButtonEndsAndDoesNotRestart()

@@ -38,8 +38,9 @@ QColor WidgetColorPicker::pick(QWidget* target, const QSet<QWidget*>& swallow)
     delete m_highlight;
     m_highlight = new HighlightFrame(target);
     m_target = target;
-    m_lastMousePosition = QCursor::pos();
+    m_lastMousePosition = {};
 
+    const QPointer<QWidget> picked(target);
     const QPointer<WidgetColorPicker> self(this);
     const Core::ScopedFunctionCall swallowing(
         [this, &swallow] {
@@ -51,16 +52,12 @@ QColor WidgetColorPicker::pick(QWidget* target, const QSet<QWidget*>& swallow)
             if (!self)
                 return;
             m_swallow.clear();
+            m_target.clear();
             m_insidePick = false;
         },
         true);
     runLoop();
-    if (!self)
-        return {};
-
-    const QPointer<QWidget> picked = m_target;
-    m_target.clear();
-    return picked ? sample(*picked) : QColor();
+    return self && picked ? sample(*picked) : QColor();
 }
 
 void WidgetColorPicker::runLoop()
@@ -141,8 +138,10 @@ QColor WidgetColorPicker::sample(const QWidget& target) const
         return {};
 
     // The cursor's position is in whole units; the mouse events tell which of a unit's pixels it is on. They are out of
-    // date where the cursor was moved without an event.
-    const QPointF exact = m_lastMousePosition.toPoint() == position ? m_lastMousePosition : QPointF(position);
+    // date where the cursor was moved without an event: then it is on the pixel that is nearest to the unit's start.
+    const qreal halfPixel = 0.5 / target.devicePixelRatioF();
+    const QPointF exact =
+        m_lastMousePosition.toPoint() == position ? m_lastMousePosition : position + QPointF(halfPixel, halfPixel);
     const QColor onScreen = Detail::screenPixel(exact);
     return onScreen.isValid() ? onScreen : Detail::windowPixel(*target.window(), exact);
 }

@@ -3,6 +3,8 @@
 #include <KQt/Ui/HighlightFrame.h>
 #include <KQt/Ui/WidgetColorPicker.h>
 
+#include <Basalt/ScopedFunctionCall.h>
+
 #include <QStyleOptionButton>
 #include <QStylePainter>
 
@@ -55,19 +57,18 @@ const QWidget* WidgetColorPickerButton::targetWidget() const
 
 void WidgetColorPickerButton::startPicking()
 {
-    if (!m_target || m_picker->pickingInProgress())
+    if (!m_target || m_starting || m_picker->pickingInProgress())
         return;
 
     const QPointer<WidgetColorPickerButton> self(this);
-    if (m_changeSelfColor) {
-        delete m_highlight;
-        m_highlight = new HighlightFrame(this);
-        m_highlight->setObjectName(QStringLiteral("WidgetColorPickerButtonFrame"));
-    }
-    Q_EMIT pickingStarted();
-    if (!self)
-        return;
-    const QColor picked = m_picker->pick(m_target, {this});
+    // Slots run in here: none may start anew before the picking is over, and one that throws must not leave the frame.
+    const Core::ScopedFunctionCall framed([this] { frameItself(); },
+                                          [this, self] {
+                                              if (self)
+                                                  delete m_highlight;
+                                          },
+                                          true);
+    const QColor picked = pickOnce();
     if (!self)
         return;
     Q_EMIT pickingFinished();
@@ -76,6 +77,28 @@ void WidgetColorPickerButton::startPicking()
     delete m_highlight;
     if (picked.isValid())
         setColor(picked);
+}
+
+void WidgetColorPickerButton::frameItself()
+{
+    if (!m_changeSelfColor)
+        return;
+    delete m_highlight;
+    m_highlight = new HighlightFrame(this);
+    m_highlight->setObjectName(QStringLiteral("WidgetColorPickerButtonFrame"));
+}
+
+QColor WidgetColorPickerButton::pickOnce()
+{
+    const QPointer<WidgetColorPickerButton> self(this);
+    const Core::ScopedFunctionCall starting([this] { m_starting = true; },
+                                            [this, self] {
+                                                if (self)
+                                                    m_starting = false;
+                                            },
+                                            true);
+    Q_EMIT pickingStarted();
+    return self ? m_picker->pick(m_target, {this}) : QColor();
 }
 
 void WidgetColorPickerButton::stopPicking()

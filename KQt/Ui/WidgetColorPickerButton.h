@@ -50,11 +50,15 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void frameItself();
+    QColor pickOnce();
+
     WidgetColorPicker* m_picker;
     QPointer<QWidget> m_target;
     QPointer<HighlightFrame> m_highlight; // owned, but the button's parent may delete it first
     QColor m_color;
     bool m_changeSelfColor = true;
+    bool m_starting = false; // from before pickingStarted() until pick() has returned
 };
 
 } // namespace Kestrel::Gui
