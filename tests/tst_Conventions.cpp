@@ -24,6 +24,8 @@
 #include <KQt/Ui/StyledDockWidgetTitlebar.h>
 #include <KQt/Ui/TextAlignPicker.h>
 #include <KQt/Ui/TextEditWithPlaceholder.h>
+#include <KQt/Ui/WidgetColorPicker.h>
+#include <KQt/Ui/WidgetColorPickerButton.h>
 #include <KQt/Ui/WidgetMouseHandler.h>
 #include <KQt/Ui/WidgetResizeHandler.h>
 
@@ -73,6 +75,8 @@ void tst_Conventions::metaObjectHasTheQualifiedName_data()
     row("Kestrel::Gui::StyledDockWidgetTitlebar", StyledDockWidgetTitlebar::staticMetaObject);
     row("Kestrel::Gui::TextAlignPicker", TextAlignPicker::staticMetaObject);
     row("Kestrel::Gui::TextEditWithPlaceholder", TextEditWithPlaceholder::staticMetaObject);
+    row("Kestrel::Gui::WidgetColorPicker", WidgetColorPicker::staticMetaObject);
+    row("Kestrel::Gui::WidgetColorPickerButton", WidgetColorPickerButton::staticMetaObject);
     row("Kestrel::Gui::WidgetMouseHandler", WidgetMouseHandler::staticMetaObject);
     row("Kestrel::Gui::WidgetResizeHandler", WidgetResizeHandler::staticMetaObject);
     // The one class that lives outside the namespace.

@@ -16,6 +16,25 @@ using Kestrel::Gui::RColorPicker;
 using Kestrel::Gui::RColorPickerPopup;
 using TestSupport::render;
 
+namespace {
+
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget* watched) { watched->installEventFilter(this); }
+
+    int paints = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        paints += event->type() == QEvent::Paint;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+} // namespace
+
 class tst_RColorPicker : public QObject
 {
     Q_OBJECT
@@ -28,6 +47,7 @@ private Q_SLOTS:
     void setColorStylesByObjectName();
     void setColorEmitsNothing();
     void uncolorizedKeepsItsLook();
+    void setColorRepaintsAtOnce();
     void showPopupAlignsRightEdgesBelow();
     void clickOpensThePopup();
     void pressedFollowsThePopup();
@@ -142,6 +162,25 @@ void tst_RColorPicker::uncolorizedKeepsItsLook()
     picker.setColor(Qt::blue);
     QCOMPARE(picker.color(), QColor(Qt::blue));
     QCOMPARE(picker.styleSheet(), styled);
+}
+
+void tst_RColorPicker::setColorRepaintsAtOnce()
+{
+    RColorPicker picker;
+    picker.setObjectName(QStringLiteral("picker"));
+    picker.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&picker));
+    QCoreApplication::processEvents();
+    PaintCounter counter(&picker);
+    picker.setColor(Qt::red);
+    QVERIFY(counter.paints >= 1); // before the event loop runs
+    QCoreApplication::processEvents();
+
+    picker.SetColorized(false);
+    counter.paints = 0;
+    picker.setColor(Qt::blue);
+    QCoreApplication::processEvents();
+    QCOMPARE(counter.paints, 0);
 }
 
 void tst_RColorPicker::showPopupAlignsRightEdgesBelow()

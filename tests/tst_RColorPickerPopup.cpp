@@ -377,6 +377,7 @@ void tst_RColorPickerPopup::dialogStartsWithHoverColorAndIsStyled()
         atOpening = record.entries;
         QCOMPARE(dialog->currentColor(), QColor(9, 8, 7));
         QCOMPARE(dialog->parentWidget(), &picker);
+        QVERIFY(dialog->testOption(QColorDialog::DontUseNativeDialog)); // a desktop's own has nothing to style
         const auto spinBoxes = dialog->findChildren<QAbstractSpinBox*>();
         QVERIFY(!spinBoxes.isEmpty());
         for (const QAbstractSpinBox* box : spinBoxes)

@@ -227,7 +227,10 @@ void RColorPickerPopup::chooseInDialog()
         return;
 
     // On the heap and watched: the picker that owns popup and dialog may be deleted while the dialog is open.
-    const QPointer<QColorDialog> dialog(new QColorDialog(m_hoverColor, parentWidget()));
+    const QPointer<QColorDialog> dialog(new QColorDialog(parentWidget()));
+    // The same dialog on every desktop: a native one has neither the spin boxes nor the buttons to be styled.
+    dialog->setOption(QColorDialog::DontUseNativeDialog);
+    dialog->setCurrentColor(m_hoverColor);
     hideSpinBoxButtons(*dialog);
     styleDialogButtons(*dialog);
     const bool accepted = dialog->exec() == QDialog::Accepted;
