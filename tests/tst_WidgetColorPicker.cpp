@@ -392,6 +392,9 @@ void tst_WidgetColorPicker::quittingTheApplicationEnds()
 
 void tst_WidgetColorPicker::throwingSlotUndoesEverything()
 {
+#ifdef Q_OS_WIN
+    QSKIP("no exception passes through the window procedures of this system's event loop");
+#endif
     Scene scene;
     bool thrown = false;
     const WarningCatcher qtComplains;

@@ -351,6 +351,10 @@ void tst_WidgetColorPickerButton::throwingSlotTakesTheFrameAway_data()
 void tst_WidgetColorPickerButton::throwingSlotTakesTheFrameAway()
 {
     QFETCH(bool, whilePicking);
+#ifdef Q_OS_WIN
+    if (whilePicking)
+        QSKIP("no exception passes through the window procedures of this system's event loop");
+#endif
     Scene scene;
     const WarningCatcher qtComplains;
     const auto fail = [] { throw std::runtime_error("slot"); };
