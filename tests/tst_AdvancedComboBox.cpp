@@ -461,7 +461,7 @@ void tst_AdvancedComboBox::openingAnEmptyBoxWarnsOfNothing()
     box.view()->show();
     box.view()->resize(70, 70);
     box.view()->hide();
-    QCOMPARE(catcher.warnings().filter(QStringLiteral("setMinimum")), QStringList());
+    QCOMPARE(catcher.warnings().filter(QStringLiteral("Negative")), QStringList());
 }
 
 void tst_AdvancedComboBox::switchingReplacesTheViewAndKeepsTheRest()

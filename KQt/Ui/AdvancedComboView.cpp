@@ -50,8 +50,9 @@ void AdvancedComboView::resizeEvent(QResizeEvent* event)
 {
     resizeContents(viewport()->width(), contentsSize().height());
     QListView::resizeEvent(event);
+    // A model without the column has no widest item: Qt says -1.
     if (m_widePopup)
-        setMinimumWidth(widestItem() + scrollBarAllowance());
+        setMinimumWidth(qMax(0, widestItem() + scrollBarAllowance()));
 }
 
 void AdvancedComboView::changeEvent(QEvent* event)
