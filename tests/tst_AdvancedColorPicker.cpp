@@ -467,7 +467,8 @@ void tst_AdvancedColorPicker::eachPolishIsTheOnlyOne()
     AdvancedColorPickerPopup* const window = popup();
     QTRY_VERIFY(counter.painted.value(window) > 0);
     qApp->removeEventFilter(&counter);
-    for (QWidget* const widget : window->findChildren<QWidget*>()) {
+    const auto widgets = window->findChildren<QWidget*>();
+    for (QWidget* const widget : widgets) {
         QVERIFY2(counter.polished.value(widget) == 1, qPrintable(widget->objectName()));
         QVERIFY2(counter.polishedAgain.value(widget) == 0, qPrintable(widget->objectName()));
     }

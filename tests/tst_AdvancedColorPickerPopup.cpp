@@ -188,7 +188,8 @@ void tst_AdvancedColorPickerPopup::cleanup()
 {
     // The user colours live as long as the process: grey again for the next test.
     AdvancedColorPickerPopup popup;
-    for (PickerButton* const slot : userSlotsOf(popup))
+    const auto userSlotList = userSlotsOf(popup);
+    for (PickerButton* const slot : userSlotList)
         slot->setColor(Qt::gray);
     m_popup.reset();
 }
@@ -375,7 +376,7 @@ void tst_AdvancedColorPickerPopup::paletteSwatchesLieInAGrid()
             QCOMPARE(swatch->minimumSize(), QSize(20, 20));
             QCOMPARE(swatch->maximumSize(), QSize(20, 20));
             QVERIFY(swatch->isCheckable());
-            const QPoint fromFirst = swatch->pos() - paletteSwatches().first()->pos();
+            const QPoint fromFirst = swatch->pos() - paletteSwatches().constFirst()->pos();
             QCOMPARE(fromFirst, QPoint(column * 20, row * 20));
         }
     }
@@ -414,7 +415,8 @@ void tst_AdvancedColorPickerPopup::allSwatchesAreInOneExclusiveGroup()
     QCOMPARE(groups.first()->parent(), m_popup.get());
     QVERIFY(groups.first()->exclusive());
     QList<QAbstractButton*> expected;
-    for (PickerButton* const swatch : paletteSwatches() + userSlots())
+    const auto swatches = paletteSwatches() + userSlots();
+    for (PickerButton* const swatch : swatches)
         expected << swatch;
     QCOMPARE(groups.first()->buttons(), expected);
     QVERIFY(!groups.first()->checkedButton());
@@ -444,7 +446,8 @@ void tst_AdvancedColorPickerPopup::sizeFitsTheContents()
     QCOMPARE(colorIndicator()->size(), QSize(27, 28));
     // A border of one pixel runs around the swatches.
     QCOMPARE(child<QFrame>("colorButtonsFrame")->size(), QSize(12 * 20 + 2, 10 * 20 + 2));
-    for (QWidget* const widget : m_popup->findChildren<QWidget*>()) {
+    const auto widgets = m_popup->findChildren<QWidget*>();
+    for (QWidget* const widget : widgets) {
         QVERIFY2(widget->parentWidget()->rect().contains(widget->geometry()), qPrintable(widget->objectName()));
         QVERIFY(widget->width() >= widget->minimumWidth() && widget->height() >= widget->minimumHeight());
     }
@@ -563,7 +566,8 @@ void tst_AdvancedColorPickerPopup::setColorRestoresBlockedSignals()
     m_popup->setColor(Qt::blue);
     QVERIFY(m_popup->signalsBlocked());
     m_popup->blockSignals(false);
-    for (QObject* const object : m_popup->findChildren<QObject*>())
+    const auto objects = m_popup->findChildren<QObject*>();
+    for (QObject* const object : objects)
         QVERIFY(!object->signalsBlocked());
 }
 
@@ -597,7 +601,8 @@ void tst_AdvancedColorPickerPopup::setColorChecksThePaletteSwatch()
         m_popup->setColor(QColor(listed.at(i)));
         QCOMPARE(checkedSwatch(), paletteSwatches().at(i));
         int checked = 0;
-        for (const PickerButton* const swatch : paletteSwatches() + userSlots())
+        const auto swatches = paletteSwatches() + userSlots();
+        for (const PickerButton* const swatch : swatches)
             checked += swatch->isChecked() ? 1 : 0;
         QCOMPARE(checked, 1);
     }
@@ -621,13 +626,13 @@ void tst_AdvancedColorPickerPopup::firstMatchingUserSlotIsChecked()
     userSlots().at(7)->setColor(QColor(9, 9, 9));
     userSlots().at(9)->setColor(QColor(9, 9, 9));
     m_popup->setColor(Qt::white);
-    QCOMPARE(checkedSwatch(), paletteSwatches().first());
+    QCOMPARE(checkedSwatch(), paletteSwatches().constFirst());
     m_popup->setColor(QColor(9, 9, 9));
     QCOMPARE(checkedSwatch(), userSlots().at(7));
 
     m_popup = std::make_unique<AdvancedColorPickerPopup>();
     m_popup->setColor(Qt::gray);
-    QCOMPARE(checkedSwatch(), userSlots().first());
+    QCOMPARE(checkedSwatch(), userSlots().constFirst());
 }
 
 // With a matching slot every palette swatch is asked to uncheck, and the slot stays checked.
@@ -733,7 +738,7 @@ void tst_AdvancedColorPickerPopup::opacitySliderChangesAlpha()
         QColor expected(1, 2, 3);
         expected.setAlphaF(value / 100.0);
         QCOMPARE(changed.count(), 1);
-        QCOMPARE(changed.takeFirst().first().value<QColor>(), expected);
+        QCOMPARE(changed.takeFirst().constFirst().value<QColor>(), expected);
         QCOMPARE(m_popup->color(), expected);
         QCOMPARE(opacityEdit()->value(), value);
         QCOMPARE(colorEdit()->text(), QStringLiteral("#010203"));
@@ -899,10 +904,10 @@ void tst_AdvancedColorPickerPopup::dropWithoutColorIsRefused()
 void tst_AdvancedColorPickerPopup::userSlotsCannotBeDragged()
 {
     TestSupport::DragWatcher watcher(m_popup.get());
-    TestSupport::sendMouse(userSlots().first(), QEvent::MouseButtonPress, {1, 1}, Qt::LeftButton, Qt::LeftButton);
-    TestSupport::sendMouse(userSlots().first(), QEvent::MouseMove, {300, 1}, Qt::NoButton, Qt::LeftButton);
+    TestSupport::sendMouse(userSlots().constFirst(), QEvent::MouseButtonPress, {1, 1}, Qt::LeftButton, Qt::LeftButton);
+    TestSupport::sendMouse(userSlots().constFirst(), QEvent::MouseMove, {300, 1}, Qt::NoButton, Qt::LeftButton);
     QCOMPARE(watcher.drags(), 0);
-    TestSupport::sendMouse(userSlots().first(), QEvent::MouseButtonRelease, {300, 1}, Qt::LeftButton, Qt::NoButton);
+    TestSupport::sendMouse(userSlots().constFirst(), QEvent::MouseButtonRelease, {300, 1}, Qt::LeftButton, Qt::NoButton);
 }
 
 void tst_AdvancedColorPickerPopup::paletteSwatchesCanBeDragged()
@@ -922,10 +927,11 @@ void tst_AdvancedColorPickerPopup::paletteSwatchesCanBeDragged()
 
 void tst_AdvancedColorPickerPopup::paletteSwatchesTakeNoDrops()
 {
-    for (PickerButton* const swatch : paletteSwatches())
+    const auto swatches = paletteSwatches();
+    for (PickerButton* const swatch : swatches)
         QVERIFY(!swatch->acceptDrops());
-    QVERIFY(!drop(paletteSwatches().first(), *colorData(Qt::red, m_popup.get())));
-    QCOMPARE(paletteSwatches().first()->color(), QColor(listedPalette().first()));
+    QVERIFY(!drop(paletteSwatches().constFirst(), *colorData(Qt::red, m_popup.get())));
+    QCOMPARE(paletteSwatches().constFirst()->color(), QColor(listedPalette().constFirst()));
 }
 
 void tst_AdvancedColorPickerPopup::hidingTellsTheColor()

@@ -75,7 +75,8 @@ void tst_CallStack::depthIsBounded()
 void tst_CallStack::staysInsideTheProcess()
 {
     // Paths of the machine are kept out of messages.
-    for (const QString& line : linesOf(Kestrel::GetCallStack())) {
+    const auto lines = linesOf(Kestrel::GetCallStack());
+    for (const QString& line : lines) {
         QVERIFY2(!line.contains(QLatin1String(" /")), qPrintable(line));
         QVERIFY2(!line.contains(QLatin1String(":\\")), qPrintable(line));
     }

@@ -62,7 +62,7 @@ public:
 };
 
 bool PageForPictures::hasContent = true;
-std::vector<Page::Popup> PageForPictures::opened;
+std::vector<Page::Popup> PageForPictures::opened; // clazy:exclude=non-pod-global-static
 
 QCheckBox* checkBox(QWidget& page, const QString& text)
 {
@@ -88,7 +88,8 @@ QString logText(const QWidget& page)
 QStringList popupTexts(const QWidget* popup)
 {
     QStringList texts;
-    for (const QLabel* label : popup->findChildren<QLabel*>())
+    const auto labels = popup->findChildren<QLabel*>();
+    for (const QLabel* label : labels)
         texts << label->text();
     return texts;
 }
@@ -440,7 +441,8 @@ void tst_Gallery::noTextIsCutOff()
             QVERIFY2(button->width() >= button->minimumSizeHint().width(), qPrintable(button->text()));
             QVERIFY2(button->height() >= button->minimumSizeHint().height(), qPrintable(button->text()));
         }
-        for (const QLabel* label : window->currentFrame()->findChildren<QLabel*>()) {
+        const auto labels = window->currentFrame()->findChildren<QLabel*>();
+        for (const QLabel* label : labels) {
             const int needed =
                 label->hasHeightForWidth() ? label->heightForWidth(label->width()) : label->minimumSizeHint().height();
             QVERIFY2(label->height() >= needed, qPrintable(label->text()));

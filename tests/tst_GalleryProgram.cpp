@@ -98,7 +98,8 @@ void tst_GalleryProgram::writesEveryPageAndSaysWhere()
     const Run run = runGallery({QStringLiteral("--screenshots"), QStringLiteral("new/folder")}, folder.path());
     QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
     const QDir pictures(folder.filePath(QStringLiteral("new/folder")));
-    for (const QString& file : pageFiles()) {
+    const auto files = pageFiles();
+    for (const QString& file : files) {
         QVERIFY2(!QImage(pictures.filePath(file)).isNull(), qPrintable(file));
         QVERIFY2(run.output.contains(pictures.canonicalPath() + QLatin1Char('/') + file), qPrintable(run.output));
     }
@@ -140,7 +141,8 @@ void tst_GalleryProgram::withoutADisplayRendersToTheDefaultFolder()
     const Run run = runGallery({}, folder.path(), bare);
     QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
     QVERIFY(run.output.contains(QStringLiteral("gallery-screenshots")));
-    for (const QString& file : pageFiles())
+    const auto files = pageFiles();
+    for (const QString& file : files)
         QVERIFY(QFile::exists(folder.filePath(QStringLiteral("gallery-screenshots/") + file)));
 }
 

@@ -306,7 +306,7 @@ void tst_GalleryTour::walkthroughPage()
     };
     const auto* hints = page->findChild<QTreeWidget*>(QStringLiteral("hints"));
     const auto unmet = [hints](const char* hint) {
-        return hints->findItems(QLatin1String(hint), Qt::MatchExactly).first()->text(1);
+        return hints->findItems(QLatin1String(hint), Qt::MatchExactly).constFirst()->text(1);
     };
     QTRY_COMPARE(activeState("demo"), QStringLiteral("stopped"));
     QTRY_COMPARE(activeState("demo-save"), QStringLiteral("active"));

@@ -121,7 +121,8 @@ void tst_ImageWatermarkItem::placesBeforeTheRatioChanges()
     handler.clear();
     item->SetImage(quarters(8, 8), QRectF(50, 60, 40, 160));
     QCOMPARE(item->GetFrameInScene(), QRectF(50, 60, 40, 160));
-    for (const QRectF& frame : handler.frames())
+    const auto frames = handler.frames();
+    for (const QRectF& frame : frames)
         COMPARE_RECTS(frame, FrameReference::relative(QRectF(50, 60, 40, 160), QRectF(0, 0, 400, 300)));
 }
 

@@ -55,7 +55,7 @@ void tst_PickerButton::settingTheColorAlwaysTells()
     swatch.setColor(Qt::blue);
     QCOMPARE(swatch.color(), QColor(Qt::blue));
     QCOMPARE(changed.count(), 1);
-    QCOMPARE(changed.takeFirst().first().value<QColor>(), QColor(Qt::blue));
+    QCOMPARE(changed.takeFirst().constFirst().value<QColor>(), QColor(Qt::blue));
     swatch.setColor(Qt::blue);
     QCOMPARE(changed.count(), 1);
     swatch.setColor(QColor());

@@ -269,7 +269,7 @@ void tst_SelectionFrameDragging::checkRandomDrags(unsigned seed, int rounds)
             COMPARE_RECTS_IN(item.GetFrameInScene(), expected,
                              "frame " + RectComparison::text(frame) + " in " + RectComparison::text(work));
             QCOMPARE(handler.order(), QVector<int>{Handler::Frame});
-            COMPARE_RECTS(handler.frames().first(), FrameReference::relative(expected, work));
+            COMPARE_RECTS(handler.frames().constFirst(), FrameReference::relative(expected, work));
             stuck += expected.x() == work.x() || expected.y() == work.y() ? 1 : 0;
         }
         FrameGestures::release(item, from);
@@ -321,7 +321,7 @@ void tst_SelectionFrameDragging::pressOnAZone()
         // No closed hand: the arrows of the zone stay.
         QCOMPARE(handler.order(), (QVector<int>{Handler::Cursor, Handler::Interaction}));
         QCOMPARE(
-            handler.cursors().first(),
+            handler.cursors().constFirst(),
             int(FrameReference::cursorFor(FrameReference::zoneAt(item.GetFrameInScene(), at), item.GetFrameInScene())));
         QVERIFY(item.IsInfoCaptionVisible());
         FrameGestures::release(item, at);
@@ -525,7 +525,7 @@ void tst_SelectionFrameDragging::throughAView()
     QVERIFY(!item->IsInfoCaptionVisible());
     QVERIFY(handler.cursors().contains(Qt::ClosedHandCursor));
     QVERIFY(handler.cursors().contains(Qt::OpenHandCursor));
-    QCOMPARE(handler.frames().last(), QRectF(0, 0, 0.25, 100.0 / 300));
+    QCOMPARE(handler.frames().constLast(), QRectF(0, 0, 0.25, 100.0 / 300));
     // The frame moves itself; Qt's own moving and selecting of items stay out of it.
     QVERIFY(!item->isSelected());
 }

@@ -306,7 +306,7 @@ void tst_SelectionFrameGraphicsItem::checkPlacing()
     QCOMPARE(steps, QStringList({QStringLiteral("adjust"), QStringLiteral("update")}));
     // One call, with the corrected frame.
     QCOMPARE(handler.order(), QVector<int>{RecordingFrameHandler::Frame});
-    QCOMPARE(handler.frames().first(), QRectF(0.2, 0.5, 0.5, 0.25));
+    QCOMPARE(handler.frames().constFirst(), QRectF(0.2, 0.5, 0.5, 0.25));
     // The item begins one caption above its frame.
     const double captionHeight = FramePicture::captionHeight();
     QCOMPARE(item->pos(), QPointF(100, 200 - captionHeight));
@@ -334,7 +334,7 @@ void tst_SelectionFrameGraphicsItem::placingFromTwoPointsAndRelative()
 
     item.SetRelativeFrameInScene(QRectF(0.25, 0.5, 0.5, 0.125));
     QCOMPARE(item.GetFrameInScene(), QRectF(200, 150, 200, 25));
-    QCOMPARE(handler.frames().last(), QRectF(0.25, 0.5, 0.5, 0.125));
+    QCOMPARE(handler.frames().constLast(), QRectF(0.25, 0.5, 0.5, 0.125));
     // Placing the same frame again is told again: the work rect may have changed meanwhile.
     handler.clear();
     item.SetFrameInScene(item.GetFrameInScene());
@@ -354,7 +354,7 @@ void tst_SelectionFrameGraphicsItem::checkRandomPlacing()
         item.Initialize(work, frame);
         COMPARE_RECTS(item.GetFrameInScene(), frame);
         QCOMPARE(handler.order(), QVector<int>{RecordingFrameHandler::Frame});
-        COMPARE_RECTS(handler.frames().first(), FrameReference::relative(frame, work));
+        COMPARE_RECTS(handler.frames().constFirst(), FrameReference::relative(frame, work));
         COMPARE_RECTS(item.RelativeFromAbsolute(frame), FrameReference::relative(frame, work));
         if (!frame.isEmpty())
             COMPARE_RECTS(item.AbsoluteFromRelative(item.RelativeFromAbsolute(frame)), frame);
@@ -379,7 +379,7 @@ void tst_SelectionFrameGraphicsItem::placingUnderATransformedParent()
     COMPARE_RECTS(item->GetFrameInScene(), QRectF(100, 200, 80, 40));
     QCOMPARE(item->scenePos(), QPointF(100, 200 - FramePicture::captionHeight()));
     COMPARE_RECTS(item->GetPaintingRect(), QRectF(0, FramePicture::captionHeight(), 80, 40));
-    COMPARE_RECTS(handler.frames().last(), QRectF(0.25, 0.5, 0.2, 0.1));
+    COMPARE_RECTS(handler.frames().constLast(), QRectF(0.25, 0.5, 0.2, 0.1));
 
     auto* scaled = new PlainFrame(&handler);
     scene.addItem(scaled);

@@ -454,11 +454,11 @@ void tst_SelectionFrameHitZones::hoverThroughAView()
     moveTo({50, 50});
     QVERIFY(handler.calls.isEmpty());
     moveTo({150, 200});
-    QCOMPARE(handler.cursors().last(), int(Qt::SizeAllCursor));
+    QCOMPARE(handler.cursors().constLast(), int(Qt::SizeAllCursor));
     moveTo({102, 200});
-    QCOMPARE(handler.cursors().last(), int(Qt::SizeHorCursor));
+    QCOMPARE(handler.cursors().constLast(), int(Qt::SizeHorCursor));
     moveTo({50, 50});
-    QCOMPARE(handler.cursors().last(), int(Qt::ArrowCursor));
+    QCOMPARE(handler.cursors().constLast(), int(Qt::ArrowCursor));
 }
 
 void tst_SelectionFrameHitZones::endlessCoordinates()

@@ -134,7 +134,7 @@ void tst_SelectionFrameItem::crops()
     SelectionFrameItem item(&handler);
     item.Initialize(QRectF(100, 50, 400, 300), frame);
     QCOMPARE(item.GetFrameInScene(), expected);
-    COMPARE_RECTS(handler.frames().last(), FrameReference::relative(expected, QRectF(100, 50, 400, 300)));
+    COMPARE_RECTS(handler.frames().constLast(), FrameReference::relative(expected, QRectF(100, 50, 400, 300)));
 }
 
 void tst_SelectionFrameItem::fits_data()

@@ -481,7 +481,7 @@ void tst_SelectionFrameResizing::movedFrameIsPlacedOnce()
         handler.clear();
         FrameGestures::move(*item, QPointF(300, 300));
         QCOMPARE(handler.order(), QVector<int>{Handler::Frame});
-        QCOMPARE(handler.frames().first(), QRectF(0.25, 0.25, 0.5, 0.5));
+        QCOMPARE(handler.frames().constFirst(), QRectF(0.25, 0.25, 0.5, 0.5));
         QCOMPARE(adjusted, QVector<QRectF>{QRectF(100, 100, 200, 200)});
         FrameGestures::release(*item, QPointF(300, 300));
         item->onAdjustFrame = nullptr;

@@ -83,7 +83,8 @@ QVector<QGraphicsRectItem*> strips(const SelectionFrameWidget& widget)
 QVector<QRectF> stripRects(const SelectionFrameWidget& widget)
 {
     QVector<QRectF> result;
-    for (const QGraphicsRectItem* strip : strips(widget))
+    const auto veil = strips(widget);
+    for (const QGraphicsRectItem* strip : veil)
         result.append(strip->mapRectToScene(strip->rect()));
     return result;
 }
@@ -329,10 +330,11 @@ void tst_SelectionFrameWidget::backgroundColor()
     QWindow window;
     SelectionFrameWidget widget(nullptr, &window);
     widget.SetBGColor(QColor(10, 20, 30, 255));
-    for (const QGraphicsRectItem* strip : strips(widget))
+    const auto veil = strips(widget);
+    for (const QGraphicsRectItem* strip : veil)
         QCOMPARE(strip->brush(), QBrush(QColor(10, 20, 30, 180), Qt::SolidPattern));
     widget.SetBGColor(QColor(Qt::red));
-    for (const QGraphicsRectItem* strip : strips(widget)) {
+    for (const QGraphicsRectItem* strip : veil) {
         QCOMPARE(strip->brush(), QBrush(QColor(255, 0, 0, 180), Qt::SolidPattern));
         QCOMPARE(strip->pen().style(), Qt::NoPen);
     }
@@ -487,11 +489,11 @@ void tst_SelectionFrameWidget::hoversThroughTheWindow()
         QCoreApplication::sendEvent(&stage.window, &event);
     };
     moveTo({150, 150});
-    QCOMPARE(stage.handler.cursors().last(), int(Qt::SizeAllCursor));
+    QCOMPARE(stage.handler.cursors().constLast(), int(Qt::SizeAllCursor));
     moveTo({150, 102});
-    QCOMPARE(stage.handler.cursors().last(), int(Qt::SizeVerCursor));
+    QCOMPARE(stage.handler.cursors().constLast(), int(Qt::SizeVerCursor));
     moveTo({20, 20});
-    QCOMPARE(stage.handler.cursors().last(), int(Qt::ArrowCursor));
+    QCOMPARE(stage.handler.cursors().constLast(), int(Qt::ArrowCursor));
 }
 
 void tst_SelectionFrameWidget::dragsOnAnExposedWindow()

@@ -341,9 +341,9 @@ void tst_TextWatermarkItem::fontReachesTheText()
     item.Initialize(Work, QRectF(10, 100, 300, 200));
     item.SetText(QStringLiteral("Kestrel"));
     item.SetFont(fontOf(40));
-    QCOMPARE(formats(*item.document()).first().font().pixelSize(), scaledPixels(fontOf(40), 640));
+    QCOMPARE(formats(*item.document()).constFirst().font().pixelSize(), scaledPixels(fontOf(40), 640));
     item.SetWorkRect(QRectF(0, 0, 1280, 480));
-    QCOMPARE(formats(*item.document()).first().font().pixelSize(), scaledPixels(fontOf(40), 1280));
+    QCOMPARE(formats(*item.document()).constFirst().font().pixelSize(), scaledPixels(fontOf(40), 1280));
 }
 
 void tst_TextWatermarkItem::noFontSizeOfZero()
@@ -395,7 +395,7 @@ void tst_TextWatermarkItem::newTextGrowsTheFrame()
     COMPARE_RECTS(item.GetFrameInScene(), refitted(QRectF(10, 100, 100, 10), size, Work));
     QVERIFY(item.GetFrameInScene().height() > 10);
     QCOMPARE(item.textWidth(), item.GetFrameInScene().width());
-    COMPARE_RECTS(handler.frames().last(), item.RelativeFromAbsolute(item.GetFrameInScene()));
+    COMPARE_RECTS(handler.frames().constLast(), item.RelativeFromAbsolute(item.GetFrameInScene()));
 
     // A frame that is large enough stays.
     item.SetText(QStringLiteral("i"));

@@ -2,6 +2,9 @@
 
 namespace Kestrel::Gui {
 
+// Written as the designers write colours.
+// clazy:excludeall=qcolor-from-literal
+
 // clang-format off
 const std::array<QColor, AdvancedColorPaletteSize> AdvancedColorPalette = { // clazy:exclude=non-pod-global-static
     QColor("#ffffff"), QColor("#f7f6f6"), QColor("#ebebeb"), QColor("#d6d6d6"), QColor("#c0c0c0"), QColor("#aaaaaa"),

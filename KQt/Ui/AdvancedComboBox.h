@@ -14,6 +14,7 @@ namespace Kestrel::Gui {
 class KQTUI_EXPORT AdvancedComboBox : public QComboBox
 {
     Q_OBJECT
+    // clazy:excludeall=qproperty-without-notify
     Q_PROPERTY(bool mouseWheelEnabled READ mouseWheelEnabled WRITE setMouseWheelEnabled NOTIFY mouseWheelEnabledChanged)
     Q_PROPERTY(bool widePopupEnabled READ widePopupEnabled WRITE setWidePopupEnabled NOTIFY widePopupEnabledChanged)
     Q_PROPERTY(bool elideItemText READ elideItemText WRITE setElideItemText NOTIFY elideItemTextChanged)

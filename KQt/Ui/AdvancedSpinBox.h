@@ -10,6 +10,7 @@ namespace Kestrel::Gui {
 class KQTUI_EXPORT AdvancedSpinBox : public QSpinBox
 {
     Q_OBJECT
+    // clazy:excludeall=qproperty-without-notify
     Q_PROPERTY(int maxLenght READ getMaxLenght WRITE setMaxLenght)
 
 public:

@@ -23,6 +23,7 @@ QT_END_NAMESPACE
 class KQTUI_EXPORT CustomSliderWithZeroTick : public QSlider
 {
     Q_OBJECT
+    // clazy:excludeall=qproperty-without-notify
     Q_PROPERTY(QColor topTickEndColor READ topTickEndColor WRITE setTopTickEndColor)
     Q_PROPERTY(QColor bottomTickEndColor READ bottomTickEndColor WRITE setBottomTickEndColor)
     Q_PROPERTY(QColor centerTickColor READ centerTickColor WRITE setCenterTickColor)

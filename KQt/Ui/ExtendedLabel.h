@@ -17,6 +17,7 @@ namespace Kestrel::Gui {
 class KQTUI_EXPORT ExtendedLabel : public QLabel
 {
     Q_OBJECT
+    // clazy:excludeall=qproperty-without-notify
     Q_PROPERTY(QString originalText READ GetOriginalText WRITE SetOriginalText NOTIFY OriginalTextChanged)
     Q_PROPERTY(bool clipText READ GetClipText WRITE SetClipText)
     Q_PROPERTY(bool clickable READ IsClickable WRITE SetClickable NOTIFY ClickableChanged)

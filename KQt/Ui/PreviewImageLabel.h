@@ -19,6 +19,7 @@ namespace Kestrel::Gui {
 class KQTUI_EXPORT PreviewImageLabel : public QLabel
 {
     Q_OBJECT
+    // clazy:excludeall=qproperty-without-notify
     Q_PROPERTY(bool starIsVisible READ getStarIsVisible WRITE setStarIsVisible)
 
 public:

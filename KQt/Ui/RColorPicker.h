@@ -16,6 +16,7 @@ class RColorPickerPopup;
 class KQTUI_EXPORT RColorPicker : public QPushButton
 {
     Q_OBJECT
+    // clazy:excludeall=qproperty-without-notify
     Q_PROPERTY(int ColorBoxWidth READ ColorBoxWidth WRITE SetColorBoxWidth)
     Q_PROPERTY(int ColorBoxHeight READ ColorBoxHeight WRITE SetColorBoxHeight)
     Q_PROPERTY(QColor ColorBoxBorderColor READ ColorBoxBorderColor WRITE SetColorBoxBorderColor)
@@ -57,8 +58,8 @@ Q_SIGNALS:
 
 public Q_SLOTS:
     // The first two are connected by their names to the popup's signals.
-    void on_popup_selected(QColor color);
-    void on_popup_closed();
+    void on_popup_selected(QColor color); // clazy:exclude=connect-by-name
+    void on_popup_closed();               // clazy:exclude=connect-by-name
     /// Opens the popup below the button, right edges aligned.
     void showPopup();
 

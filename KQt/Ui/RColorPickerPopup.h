@@ -17,6 +17,7 @@ namespace Kestrel::Gui {
 class KQTUI_EXPORT RColorPickerPopup : public QFrame
 {
     Q_OBJECT
+    // clazy:excludeall=qproperty-without-notify
     Q_PROPERTY(QColor ButtonNormalColor READ ButtonNormalColor WRITE SetButtonNormalColor)
     Q_PROPERTY(QColor ButtonHoverColor READ ButtonHoverColor WRITE SetButtonHoverColor)
     Q_PROPERTY(QColor ButtonNormalTextColor READ ButtonNormalTextColor WRITE SetButtonNormalTextColor)

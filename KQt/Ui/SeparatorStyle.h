@@ -13,6 +13,7 @@ namespace Kestrel::Gui {
 class KQTUI_EXPORT SeparatorStyle : public QWidget
 {
     Q_OBJECT
+    // clazy:excludeall=qproperty-without-notify
     Q_PROPERTY(int lineWidth READ lineWidth WRITE setLineWidth)
     Q_PROPERTY(QColor color READ color WRITE setColor)
     Q_PROPERTY(int height READ height WRITE setHeight)

@@ -14,6 +14,7 @@ namespace Kestrel::Gui {
 class KQTUI_EXPORT TextEditWithPlaceholder : public QPlainTextEdit
 {
     Q_OBJECT
+    // clazy:excludeall=qproperty-without-notify
     Q_PROPERTY(QString placeholderText READ placeholderText WRITE setPlaceholderText)
 
 public:

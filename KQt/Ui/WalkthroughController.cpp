@@ -147,7 +147,8 @@ WalkthroughController::~WalkthroughController()
     if (auto* application = QCoreApplication::instance())
         application->removeEventFilter(this);
     m_shownHints.clear();
-    for (const QPointer<WalkthroughHint>& hint : guardedCopy(m_conditionHints.values()))
+    const auto hints = guardedCopy(m_conditionHints);
+    for (const QPointer<WalkthroughHint>& hint : hints)
         delete hint;
 }
 
@@ -495,7 +496,8 @@ void WalkthroughController::countConditionsAnew()
 void WalkthroughController::showOrHideHints()
 {
     const QPointer<WalkthroughController> self(this);
-    for (const QPointer<WalkthroughHint>& hint : guardedCopy(m_conditionHints.values())) {
+    const auto hints = guardedCopy(m_conditionHints);
+    for (const QPointer<WalkthroughHint>& hint : hints) {
         if (hint && m_unmetConditions.contains(hint))
             showOrHideHint(hint);
         if (!self)

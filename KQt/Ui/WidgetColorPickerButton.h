@@ -18,6 +18,7 @@ class WidgetColorPicker;
 class KQTUI_EXPORT WidgetColorPickerButton : public QToolButton
 {
     Q_OBJECT
+    // clazy:excludeall=qproperty-without-notify
     /// Whether the button shows the colour as its background and frames itself while picking; on at first.
     Q_PROPERTY(bool changeSelfColor MEMBER m_changeSelfColor)
 

@@ -352,7 +352,8 @@ QPixmap WidgetRenderer::CreateMaskImageForRect(const QRect& rect, QLinkedList<QW
     const qreal ratio = m_trackedWidget ? m_trackedWidget->devicePixelRatioF() : qApp->devicePixelRatio();
     QPixmap picture = blackPixmap(rect.size(), ratio);
     const QPointer<WidgetRenderer> self(this);
-    for (const QPointer<QWidget>& widget : guardedCopy(widgets)) {
+    const auto listed = guardedCopy(widgets);
+    for (const QPointer<QWidget>& widget : listed) {
         if (widget && IsStillThere(widget))
             RenderWidget(widget, rect, picture);
         if (!self)

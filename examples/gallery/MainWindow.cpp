@@ -148,7 +148,8 @@ void MainWindow::setRightToLeft(bool rightToLeft)
 
 void MainWindow::setLanguage(const QString& code)
 {
-    for (QAction* action : m_languages->actions())
+    const auto actions = m_languages->actions();
+    for (QAction* action : actions)
         action->setChecked(action->objectName() == code);
     m_language.use(code);
     m_rightToLeft->setChecked(QGuiApplication::isRightToLeft());

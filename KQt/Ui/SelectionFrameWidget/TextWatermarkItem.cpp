@@ -165,7 +165,7 @@ void TextWatermarkItem::PaintText(QPainter* painter, const QStyleOptionGraphicsI
 
     painter->translate(0, CaptionAllowance);
     // The text alone, without the frame. NOLINTNEXTLINE(bugprone-parent-virtual-call)
-    QGraphicsTextItem::paint(painter, option, widget);
+    QGraphicsTextItem::paint(painter, option, widget); // clazy:exclude=skipped-base-method
 
     painter->setTransform(savedTransform);
     painter->setClipping(false);
