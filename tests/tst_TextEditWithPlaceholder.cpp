@@ -17,6 +17,8 @@
 using Kestrel::Gui::TextEditWithPlaceholder;
 using TestSupport::render;
 
+Q_DECLARE_METATYPE(Qt::TextInteractionFlag)
+
 namespace {
 
 const QString hint = QStringLiteral("What do you think?");
@@ -313,20 +315,21 @@ void tst_TextEditWithPlaceholder::paintEventIsAcceptedWithTheHint()
 void tst_TextEditWithPlaceholder::hintFollowsTheFocus_data()
 {
     QTest::addColumn<int>("cursorWidth");
-    QTest::addColumn<bool>("readOnly");
+    QTest::addColumn<Qt::TextInteractionFlag>("interaction");
 
-    QTest::newRow("with a cursor") << 1 << false;
-    QTest::newRow("without a cursor") << 0 << false;
-    QTest::newRow("read-only") << 1 << true;
+    QTest::newRow("with a cursor") << 1 << Qt::TextEditable;
+    QTest::newRow("without a cursor") << 0 << Qt::TextEditable;
+    QTest::newRow("read-only") << 1 << Qt::TextSelectableByMouse;
+    QTest::newRow("nothing to do") << 1 << Qt::NoTextInteraction; // QPlainTextEdit paints nothing at all then
 }
 
 void tst_TextEditWithPlaceholder::hintFollowsTheFocus()
 {
     QFETCH(int, cursorWidth);
-    QFETCH(bool, readOnly);
+    QFETCH(Qt::TextInteractionFlag, interaction);
     TextEditWithPlaceholder& edit = m_form->edit;
     edit.setCursorWidth(cursorWidth);
-    edit.setReadOnly(readOnly);
+    edit.setTextInteractionFlags(interaction);
     edit.setPlaceholderText(hint + QLatin1Char('\n') + hint);
     for (int round = 0; round < 2; ++round) {
         QTRY_VERIFY(m_form->showsLine(0) && m_form->showsLine(1));
