@@ -144,7 +144,9 @@ void WidgetRenderer::OnOtherWidgetEvent(QWidget* widget, const QEvent* event)
     switch (event->type()) {
     case QEvent::Paint:
     case QEvent::ZOrderChange:
-        if (IsTrackedWidget(widget))
+        // While the picture is drawn that is the drawing itself. The list is not searched then, once for every widget
+        // in it.
+        if (!m_composing && IsTrackedWidget(widget))
             OnWidgetAppearanceChanged(widget);
         break;
     case QEvent::Move:
@@ -224,9 +226,6 @@ void WidgetRenderer::OnAppAppearanceChanged()
 
 void WidgetRenderer::OnWidgetAppearanceChanged(QWidget* widget)
 {
-    // The picture is being drawn: this is the paint event that drawing it sends.
-    if (m_composing)
-        return;
     if (IsTrackedWidget(widget))
         UpdateMaskImage();
 }
