@@ -102,8 +102,9 @@ public:
     /// Whether no hint is switched off; true without hints, and before the machine runs.
     Q_INVOKABLE bool isEnabled() const;
 
-    /// Switches all hints off (their groups enter "disabled", shown ones are finished) or on ("ready", also for those
-    /// that were finished before). Does nothing when isEnabled() says so already. All groups are switched in one step
+    /// Switches all hints off (their groups enter "disabled"; those shown are finished then, which moves theirs on to
+    /// "finished") or on ("ready", also for those that were finished before). Does nothing when isEnabled() says so
+    /// already: so too once every hint that was switched off has been finished. All groups are switched in one step
     /// of the machine. Before the machine runs the wish is kept and fulfilled when it starts; switching on cannot take
     /// it back until then, for isEnabled() is still true.
     Q_INVOKABLE void setEnabled(bool enable);
