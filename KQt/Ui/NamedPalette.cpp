@@ -3,7 +3,7 @@
 namespace Kestrel::Gui::Detail {
 
 // clang-format off
-const std::array<NamedColor, namedPaletteColumns * namedPaletteRows> namedPalette = {{
+const std::array<NamedColor, std::size_t{namedPaletteColumns} * namedPaletteRows> namedPalette = {{
     {"Black",               0,   0,   0},
     {"Brown",             165,  42,   0},
     {"Dark Olive Green",    0,  64,  64},

@@ -3,6 +3,7 @@
 #include <QColor>
 
 #include <array>
+#include <cstddef>
 
 namespace Kestrel::Gui::Detail {
 
@@ -23,6 +24,6 @@ constexpr int namedPaletteRows = 5;
 /// The 40 opaque colours, row by row.
 ///
 /// Some names do not fit their colour and one ends in a space; they are kept as they were given.
-extern const std::array<NamedColor, namedPaletteColumns * namedPaletteRows> namedPalette;
+extern const std::array<NamedColor, std::size_t{namedPaletteColumns} * namedPaletteRows> namedPalette;
 
 } // namespace Kestrel::Gui::Detail

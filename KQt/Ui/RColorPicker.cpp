@@ -7,6 +7,8 @@
 #include <QStylePainter>
 #include <QVariant>
 
+#include <utility>
+
 namespace Kestrel::Gui {
 
 RColorPicker::RColorPicker(QWidget* parent)
@@ -66,7 +68,7 @@ QColor RColorPicker::ColorBoxBorderColor() const
 
 void RColorPicker::SetColorBoxBorderColor(QColor color)
 {
-    m_colorBoxBorderColor = color;
+    m_colorBoxBorderColor = std::move(color);
 }
 
 QColor RColorPicker::DefaultColor() const

@@ -13,6 +13,8 @@
 #include <QPointer>
 #include <QPushButton>
 
+#include <utility>
+
 namespace Kestrel::Gui {
 
 namespace {
@@ -78,14 +80,15 @@ RColorPickerPopup::~RColorPickerPopup() = default;
 
 void RColorPickerPopup::selectDefaultColor(QColor color)
 {
-    m_defaultColor = color;
+    m_defaultColor = std::move(color);
 }
 
 void RColorPickerPopup::selectHoverColor(QColor color)
 {
-    m_hoverColor = color;
+    m_hoverColor = std::move(color);
 }
 
+// The text is taken by value as callers know it. NOLINTNEXTLINE(performance-unnecessary-value-param)
 void RColorPickerPopup::paintButton(QPainter* painter, QRectF rect, QString text, bool hover)
 {
     if (!hover)
@@ -109,7 +112,7 @@ QColor RColorPickerPopup::ButtonNormalColor() const
 
 void RColorPickerPopup::SetButtonNormalColor(QColor color)
 {
-    m_buttonNormalColor = color;
+    m_buttonNormalColor = std::move(color);
     update();
 }
 
@@ -120,7 +123,7 @@ QColor RColorPickerPopup::ButtonHoverColor() const
 
 void RColorPickerPopup::SetButtonHoverColor(QColor color)
 {
-    m_buttonHoverColor = color;
+    m_buttonHoverColor = std::move(color);
     update();
 }
 
@@ -131,7 +134,7 @@ QColor RColorPickerPopup::ButtonNormalTextColor() const
 
 void RColorPickerPopup::SetButtonNormalTextColor(QColor color)
 {
-    m_buttonNormalTextColor = color;
+    m_buttonNormalTextColor = std::move(color);
     update();
 }
 
@@ -142,7 +145,7 @@ QColor RColorPickerPopup::ButtonHoverTextColor() const
 
 void RColorPickerPopup::SetButtonHoverTextColor(QColor color)
 {
-    m_buttonHoverTextColor = color;
+    m_buttonHoverTextColor = std::move(color);
     update();
 }
 
@@ -153,7 +156,7 @@ QColor RColorPickerPopup::BorderDialogColor() const
 
 void RColorPickerPopup::SetBorderDialogColor(QColor color)
 {
-    m_borderDialogColor = color;
+    m_borderDialogColor = std::move(color);
     update();
 }
 
@@ -164,7 +167,7 @@ QColor RColorPickerPopup::BorderButtonColor() const
 
 void RColorPickerPopup::SetBorderButtonColor(QColor color)
 {
-    m_borderButtonColor = color;
+    m_borderButtonColor = std::move(color);
     update();
 }
 
@@ -175,7 +178,7 @@ QColor RColorPickerPopup::BorderSmallButtonColor() const
 
 void RColorPickerPopup::SetBorderSmallButtonColor(QColor color)
 {
-    m_borderSmallButtonColor = color;
+    m_borderSmallButtonColor = std::move(color);
     update();
 }
 
