@@ -204,6 +204,7 @@ private Q_SLOTS:
 
     void composesRandomWidgets();
     void masksRandomWidgets();
+    void placesAreThoseOfTheScreen();
     void composesAtTwoDevicePixels();
     void fillsWithOpaqueBlack();
     void drawsEveryWidgetTwice();
@@ -587,6 +588,25 @@ void tst_WidgetRenderer::masksRandomWidgets()
         partlyMasked += !mask.isEmpty() && mask.intersects(probe->rect());
     }
     QVERIFY(partlyMasked > 5);
+}
+
+// A widget lies in the picture at its place on the screen, not at its place in the frame. Kept so: applications draw
+// the picture with this in mind.
+void tst_WidgetRenderer::placesAreThoseOfTheScreen()
+{
+    Stage stage;
+    Probe* probe = stage.addProbe(1, QRect(0, 0, 30, 20));
+    QWidget tracked;
+    WidgetRenderer renderer(&tracked, nullptr);
+    const QRect frame(15, 10, 200, 150);
+    renderer.ChangeRendererFrame(frame);
+    probe->show();
+    QCOMPARE(pictureSize(renderer), frame.size());
+    const QPoint place = stage.mapToGlobal(QPoint(0, 0));
+    QCOMPARE(pixel(renderer, place), Probe::colorAt(1, QPoint(0, 0)));
+    QCOMPARE(pixel(renderer, place + QPoint(29, 19)), Probe::colorAt(1, QPoint(29, 19)));
+    QCOMPARE(pixel(renderer, place + QPoint(30, 20)), qRgb(0, 0, 0));
+    QCOMPARE(pixel(renderer, place - frame.topLeft()), qRgb(0, 0, 0));
 }
 
 void tst_WidgetRenderer::composesAtTwoDevicePixels()

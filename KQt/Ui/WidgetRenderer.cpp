@@ -45,8 +45,8 @@ QPixmap blackPixmap(const QSize& size, qreal devicePixelRatio)
     return pixmap;
 }
 
-// Qt 5 keeps one paint device per widget and forgets the outer one when a widget is rendered within its own paint event:
-// the widget would stay blank on the screen. Its ancestors count too, for new masks have them painted.
+// Qt 5 keeps one paint device per widget and forgets the outer one when a widget is rendered within its own paint
+// event: the widget would stay blank on the screen. Its ancestors count too, for new masks have them painted.
 bool isBeingPainted(const QWidget* widget)
 {
     for (; widget; widget = widget->parentWidget()) {
