@@ -126,7 +126,7 @@ public:
     ReferenceEditor(const TextEditWithPlaceholder& edit, QString text, QColor color)
         : QPlainTextEdit(edit.parentWidget())
         , m_text(std::move(text))
-        , m_color(color)
+        , m_color(std::move(color))
     {
         setPalette(edit.palette());
         setEnabled(edit.isEnabled());
