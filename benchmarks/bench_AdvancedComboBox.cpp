@@ -34,6 +34,13 @@ void openAndClose(QComboBox& box)
     QCoreApplication::processEvents();
 }
 
+/// A plain box whose list is as a list comes: with the delegate that AdvancedComboBox's list has, too.
+class ListBox : public QComboBox
+{
+public:
+    ListBox() { setView(new QListView); }
+};
+
 template <typename Box>
 void BM_firstOpening(benchmark::State& state)
 {
@@ -102,9 +109,11 @@ void BM_paintSeparatorRow(benchmark::State& state)
 }
 
 BENCHMARK_TEMPLATE(BM_firstOpening, QComboBox)->Unit(benchmark::kMillisecond);
+BENCHMARK_TEMPLATE(BM_firstOpening, ListBox)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_measureAllItems)->Unit(benchmark::kMillisecond);
 BENCHMARK_TEMPLATE(BM_firstOpening, AdvancedComboBox)->Unit(benchmark::kMillisecond);
 BENCHMARK_TEMPLATE(BM_nextOpening, QComboBox)->Unit(benchmark::kMillisecond);
+BENCHMARK_TEMPLATE(BM_nextOpening, ListBox)->Unit(benchmark::kMillisecond);
 BENCHMARK_TEMPLATE(BM_nextOpening, AdvancedComboBox)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_paintOrdinaryRow);
 BENCHMARK(BM_paintSeparatorRow);
