@@ -123,6 +123,7 @@ private Q_SLOTS:
     void paintsGrooveTickAndHandle_data();
     void paintsGrooveTickAndHandle();
     void firstPaintedValueIsTheZero();
+    void withoutPropertiesTheTickIsOnePixel();
     void tickFollowsResizes();
     void neverPaintsUpsideDown();
     void setByStyleSheet();
@@ -218,6 +219,22 @@ void tst_CustomSliderWithZeroTick::firstPaintedValueIsTheZero()
         QVERIFY(isTickEnd(image.pixelColor(zero.x(), zero.y() - 8), Qt::red));
         QVERIFY(isTickEnd(image.pixelColor(zero.x(), zero.y() + 8), Qt::blue));
     }
+}
+
+void tst_CustomSliderWithZeroTick::withoutPropertiesTheTickIsOnePixel()
+{
+    // A pen of width 0 is as thin as a line gets, and colours that are not set are black.
+    CustomSliderWithZeroTick slider(Qt::Horizontal);
+    QSlider plain(Qt::Horizontal);
+    for (QSlider* each : {static_cast<QSlider*>(&slider), &plain})
+        each->resize(sliderSize);
+    slider.setValue(20);
+    render(slider);
+    for (QSlider* each : {static_cast<QSlider*>(&slider), &plain})
+        each->setValue(90);
+    QImage expected = render(plain);
+    expected.setPixelColor(handleCenter(slider, 20), Qt::black);
+    QCOMPARE(render(slider), expected);
 }
 
 void tst_CustomSliderWithZeroTick::tickFollowsResizes()

@@ -16,7 +16,7 @@ QT_END_NAMESPACE
 ///
 /// The value at the first painting becomes the zero; the line follows it when the slider is resized. The line has a
 /// gradient of three colours and a size in pixels, all set through the properties, for example by a style sheet
-/// (`qproperty-tickWidth: 2;`). Without them there is nothing to see.
+/// (`qproperty-tickWidth: 2;`). Without them it is a single black pixel.
 ///
 /// The class lives in the global namespace, where style sheets and forms expect it. It never paints upside down:
 /// inverted appearance and right-to-left layouts do not mirror it.
