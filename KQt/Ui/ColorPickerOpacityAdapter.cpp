@@ -60,11 +60,10 @@ void ColorPickerOpacityAdapter::setColor(QColor color)
         return;
 
     const QPointer<ColorPickerOpacityAdapter> self(this);
-    withFlagSet(this, m_updating, [this, &self, color] {
+    withFlagSet(this, m_updating, [this, &self, &color] {
         const double alpha = color.alphaF();
-        QColor opaque = color;
-        opaque.setAlphaF(1.0);
-        m_picker->setColor(opaque);
+        color.setAlphaF(1.0);
+        m_picker->setColor(color);
         // Truncated, so that an opacity never reads higher than it was asked for.
         if (self && m_slider)
             m_slider->setValue(static_cast<int>(m_slider->maximum() * alpha));

@@ -3,9 +3,9 @@
 namespace Kestrel::Gui {
 
 IDragDropEventFilterObserver::IDragDropEventFilterObserver() = default;
-IDragDropEventFilterObserver::IDragDropEventFilterObserver(const IDragDropEventFilterObserver& other) = default;
+IDragDropEventFilterObserver::IDragDropEventFilterObserver(const IDragDropEventFilterObserver& /*other*/) = default;
 IDragDropEventFilterObserver&
-IDragDropEventFilterObserver::operator=(const IDragDropEventFilterObserver& other) = default;
+IDragDropEventFilterObserver::operator=(const IDragDropEventFilterObserver& /*other*/) = default;
 IDragDropEventFilterObserver::~IDragDropEventFilterObserver() = default;
 
 } // namespace Kestrel::Gui
