@@ -39,7 +39,8 @@ QPen PenPicker::pen() const
     return QPen(m_color->color(), width, width == 0 ? Qt::NoPen : Qt::SolidLine);
 }
 
-void PenPicker::setPen(QPen pen)
+// A copy: a slot of penChanged() may change what a reference would refer to.
+void PenPicker::setPen(QPen pen) // NOLINT(performance-unnecessary-value-param)
 {
     m_width->setCurrentIndex(pen.style() == Qt::NoPen ? 0 : std::min(pen.width(), m_width->count() - 1));
     m_color->setColor(pen.color());
