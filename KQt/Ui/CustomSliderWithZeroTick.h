@@ -43,6 +43,8 @@ public:
     int tickHeight() const;
 
 protected:
+    /// As QSlider's, but never upside down.
+    void initStyleOption(QStyleOptionSlider* option) const;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -54,7 +56,6 @@ private:
     void setTickWidth(int width);
     void setTickHeight(int height);
 
-    void initStyleOption(QStyleOptionSlider* option) const;
     QPointF handleCenter(const QStyleOptionSlider& option) const;
     void rememberZero(const QStyleOptionSlider& option);
     void followZero(QStyleOptionSlider& option);

@@ -232,7 +232,7 @@ private:
     WalkthroughController m_controller;
 };
 
-const PageRegistration registration(300, QT_TRANSLATE_NOOP("Gallery", "Walkthrough"),
+const PageRegistration registration(220, QT_TRANSLATE_NOOP("Gallery", "Walkthrough"),
                                     [](QWidget* parent) { return new WalkthroughPage(parent); });
 
 } // namespace

@@ -130,7 +130,7 @@ private:
     QLabel* m_picture = nullptr;
 };
 
-const PageRegistration registration(310, QT_TRANSLATE_NOOP("Gallery", "Widget renderer"),
+const PageRegistration registration(230, QT_TRANSLATE_NOOP("Gallery", "Widget renderer"),
                                     [](QWidget* parent) { return new WidgetRendererPage(parent); });
 
 } // namespace
