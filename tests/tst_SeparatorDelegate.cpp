@@ -120,6 +120,8 @@ private Q_SLOTS:
     void defaultLineCrossesTheWholeRow();
     void lineFollowsTheLooks_data();
     void lineFollowsTheLooks();
+    void lineIsThePainters_data();
+    void lineIsThePainters();
     void nothingIsDrawnOnceTheMarginsMeet();
     void penIsLeftOnThePainter();
     void ordinaryRowsArePaintedByTheBaseClass();
@@ -313,6 +315,56 @@ void tst_SeparatorDelegate::lineFollowsTheLooks()
     QCOMPARE(painted(f.delegate, f.rows.separator()), expected);
     if (width == 1)
         QCOMPARE(expected, grayLine(10 + left, 69 - right, 15 + down, color));
+}
+
+void tst_SeparatorDelegate::lineIsThePainters_data()
+{
+    QTest::addColumn<int>("lineWidth");
+    QTest::addColumn<QColor>("color");
+    QTest::addColumn<QTransform>("transform");
+    QTest::addColumn<bool>("smooth");
+    const QColor translucent(200, 30, 60, 100);
+    QTest::newRow("plain") << 1 << QColor(Qt::red) << QTransform() << false;
+    QTest::newRow("translucent") << 1 << translucent << QTransform() << false;
+    QTest::newRow("thick") << 3 << translucent << QTransform() << false;
+    QTest::newRow("cosmetic") << 0 << QColor(Qt::red) << QTransform() << false;
+    QTest::newRow("moved") << 1 << translucent << QTransform::fromTranslate(3, -2) << false;
+    QTest::newRow("moved by half a pixel") << 1 << translucent << QTransform::fromTranslate(0.5, 0.5) << false;
+    QTest::newRow("scaled") << 1 << translucent << QTransform::fromScale(1.3, 1.3) << false;
+    QTest::newRow("turned") << 1 << translucent << QTransform().rotate(20) << false;
+    QTest::newRow("smooth") << 1 << translucent << QTransform() << true;
+}
+
+void tst_SeparatorDelegate::lineIsThePainters()
+{
+    QFETCH(int, lineWidth);
+    QFETCH(QColor, color);
+    QFETCH(QTransform, transform);
+    QFETCH(bool, smooth);
+    QWidget parent;
+    const SeparatorDelegate delegate(&parent);
+    auto* const looks = parent.findChild<SeparatorStyle*>();
+    looks->setLineWidth(lineWidth);
+    looks->setColor(color);
+    QStandardItemModel model;
+    model.appendRow(SeparatorDelegate::createSeparatorItem().release());
+
+    const auto prepared = [&](QPainter& painter) {
+        painter.setTransform(transform);
+        painter.setRenderHint(QPainter::Antialiasing, smooth);
+        painter.setClipRect(QRect(0, 0, 50, 40));
+    };
+    const QImage shown = picture([&](QPainter& painter) {
+        prepared(painter);
+        delegate.paint(&painter, optionFor(row), model.index(0, 0));
+    });
+    const QImage expected = picture([&](QPainter& painter) {
+        prepared(painter);
+        painter.setPen(QPen(QBrush(color), lineWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+        painter.drawLine(row.left(), row.center().y(), row.right(), row.center().y());
+    });
+    QCOMPARE(shown, expected);
+    QVERIFY(shown != picture([](QPainter&) {}));
 }
 
 void tst_SeparatorDelegate::nothingIsDrawnOnceTheMarginsMeet()

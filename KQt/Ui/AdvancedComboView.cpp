@@ -1,6 +1,8 @@
 #include <KQt/Ui/AdvancedComboView.h>
 
 #include <KQt/Ui/AdvancedComboBox.h>
+#include <KQt/Ui/MeasuringDelegate.h>
+#include <KQt/Ui/ModelChanges.h>
 
 #include <QAbstractItemDelegate>
 #include <QEvent>
@@ -17,7 +19,9 @@ namespace Kestrel::Gui {
 AdvancedComboView::AdvancedComboView(AdvancedComboBox* combo, bool widePopup)
     : m_combo(combo)
     , m_widePopup(widePopup)
+    , m_delegate(new MeasuringDelegate(this))
 {
+    setItemDelegate(m_delegate);
     if (m_widePopup)
         setTextElideMode(Qt::ElideNone);
 }
@@ -79,6 +83,8 @@ void AdvancedComboView::changeEvent(QEvent* event)
 
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
         m_measured = false;
+        if (m_delegate)
+            m_delegate->forget();
         QTimer::singleShot(0, new Helper(this), &QObject::deleteLater);
     }
     QListView::changeEvent(event);
@@ -151,27 +157,14 @@ void AdvancedComboView::watchForChanges(const Measured& conditions)
     m_watches.clear();
 
     const auto measureAnew = [this] { m_measured = false; };
-    const auto watch = [this, measureAnew](auto* sender, auto signal) {
-        m_watches.append(connect(sender, signal, this, measureAnew));
-    };
-    if (const QAbstractItemModel* items = conditions.model) {
-        watch(items, &QAbstractItemModel::dataChanged);
-        watch(items, &QAbstractItemModel::rowsInserted);
-        watch(items, &QAbstractItemModel::rowsRemoved);
-        watch(items, &QAbstractItemModel::rowsMoved);
-        watch(items, &QAbstractItemModel::columnsInserted);
-        watch(items, &QAbstractItemModel::columnsRemoved);
-        watch(items, &QAbstractItemModel::columnsMoved);
-        watch(items, &QAbstractItemModel::layoutChanged);
-        watch(items, &QAbstractItemModel::modelReset);
-        watch(items, &QObject::destroyed);
-    }
+    if (conditions.model)
+        m_watches = Detail::onModelChange(conditions.model, this, measureAnew);
     const QSet<const QAbstractItemDelegate*> delegates(conditions.delegates.begin(), conditions.delegates.end());
     for (const QAbstractItemDelegate* delegate : delegates) {
         if (!delegate)
             continue;
-        watch(delegate, &QAbstractItemDelegate::sizeHintChanged);
-        watch(delegate, &QObject::destroyed);
+        m_watches.append(connect(delegate, &QAbstractItemDelegate::sizeHintChanged, this, measureAnew));
+        m_watches.append(connect(delegate, &QObject::destroyed, this, measureAnew));
     }
 }
 

@@ -10,6 +10,7 @@
 namespace Kestrel::Gui {
 
 class AdvancedComboBox;
+class MeasuringDelegate;
 
 /// The popup list of AdvancedComboBox.
 ///
@@ -52,6 +53,7 @@ private:
 
     QPointer<AdvancedComboBox> m_combo;
     bool m_widePopup;
+    QPointer<MeasuringDelegate> m_delegate; // until the application sets one of its own
     bool m_measured = false;
     Measured m_conditions;
     int m_widestItem = 0;

@@ -6,6 +6,8 @@
 #include <QStandardItem>
 #include <QStyle>
 
+#include <cmath>
+
 namespace Kestrel::Gui {
 
 namespace {
@@ -13,6 +15,16 @@ namespace {
 QString separatorMark()
 {
     return QStringLiteral("separator");
+}
+
+/// Whether a horizontal line with the painter's pen is one row of whole pixels. A fill gives the same ones in a
+/// fraction of the time that Qt's line takes, which goes pixel by pixel.
+bool drawsWholePixels(const QPainter& painter)
+{
+    const QTransform& transform = painter.deviceTransform();
+    const auto isWhole = [](qreal offset) { return offset == std::floor(offset); };
+    return painter.pen().width() == 1 && !painter.testRenderHint(QPainter::Antialiasing) &&
+           transform.type() <= QTransform::TxTranslate && isWhole(transform.dx()) && isWhole(transform.dy());
 }
 
 } // namespace
@@ -73,7 +85,11 @@ void SeparatorDelegate::paintSeparator(QPainter& painter, const QRect& row) cons
     const int y = row.center().y() + m_style->verticalPosition();
     const int left = row.left() + m_style->marginLeft();
     const int right = row.right() - m_style->marginRight();
-    if (left < right)
+    if (left >= right)
+        return;
+    if (drawsWholePixels(painter))
+        painter.fillRect(QRect(QPoint(left, y), QPoint(right, y)), m_style->color());
+    else
         painter.drawLine(left, y, right, y);
 }
 
