@@ -152,7 +152,8 @@ void tst_AdvancedComboBox::defaults()
     QCOMPARE(box.count(), 0);
     // The list has no meta-object of its own.
     QVERIFY(box.view()->metaObject() == &QListView::staticMetaObject);
-    QVERIFY(typeid(*box.view()) != typeid(QListView));
+    const QAbstractItemView& list = *box.view();
+    QVERIFY(typeid(list) != typeid(QListView));
     QCOMPARE(listOf(box).textElideMode(), Qt::ElideNone);
     QCOMPARE(box.view()->model(), box.model());
 }

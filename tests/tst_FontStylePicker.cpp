@@ -30,7 +30,8 @@ QList<QToolButton*> buttonsOf(const QWidget& picker)
 QStringList tagsOf(const QWidget& picker)
 {
     QStringList tags;
-    for (const QToolButton* button : buttonsOf(picker))
+    const auto buttons = buttonsOf(picker);
+    for (const QToolButton* button : buttons)
         tags << button->property("styleTag").toString();
     return tags;
 }
@@ -38,7 +39,8 @@ QStringList tagsOf(const QWidget& picker)
 QStringList toolTipsOf(const QWidget& picker)
 {
     QStringList texts;
-    for (const QToolButton* button : buttonsOf(picker))
+    const auto buttons = buttonsOf(picker);
+    for (const QToolButton* button : buttons)
         texts << button->toolTip();
     return texts;
 }
@@ -46,7 +48,8 @@ QStringList toolTipsOf(const QWidget& picker)
 QList<bool> statesOf(const QWidget& picker)
 {
     QList<bool> states;
-    for (const QToolButton* button : buttonsOf(picker))
+    const auto buttons = buttonsOf(picker);
+    for (const QToolButton* button : buttons)
         states << button->isChecked();
     return states;
 }
@@ -126,7 +129,8 @@ void tst_FontStylePicker::strip()
     QCOMPARE(tagsOf(picker), words({"Bold", "Italic", "Underline"}));
     QCOMPARE(toolTipsOf(picker), words({"Bold", "Italic", "Underline"}));
     QCOMPARE(picker.findChildren<QToolButton*>(), buttonsOf(picker));
-    for (const QToolButton* button : buttonsOf(picker)) {
+    const auto buttons = buttonsOf(picker);
+    for (const QToolButton* button : buttons) {
         QCOMPARE(button->parentWidget(), &picker);
         QVERIFY(button->isCheckable());
         QVERIFY(button->icon().isNull()); // a style sheet gives them their look
@@ -193,7 +197,8 @@ void tst_FontStylePicker::keepsTheRestOfTheFont()
     expected.setUnderline(true);
 
     FontStylePicker picker;
-    for (QToolButton* button : buttonsOf(picker))
+    const auto buttons = buttonsOf(picker);
+    for (QToolButton* button : buttons)
         button->setChecked(true);
     const QFont font = picker.apply(base);
     QCOMPARE(font, expected);
@@ -227,7 +232,8 @@ void tst_FontStylePicker::readsAFont()
     QFETCH(QList<bool>, states);
     FontStylePicker picker;
     for (const bool before : {false, true}) {
-        for (QToolButton* button : buttonsOf(picker))
+        const auto buttons = buttonsOf(picker);
+        for (QToolButton* button : buttons)
             button->setChecked(before);
         picker.setFont(font);
         QCOMPARE(statesOf(picker), states);
@@ -254,7 +260,8 @@ void tst_FontStylePicker::clicksToggle()
     picker.show();
     QSignalSpy changed(&picker, &FontStylePicker::styleChanged);
     // Independent of one another: none is unchecked by the next.
-    for (QToolButton* button : buttonsOf(picker))
+    const auto buttons = buttonsOf(picker);
+    for (QToolButton* button : buttons)
         QTest::mouseClick(button, Qt::LeftButton);
     QCOMPARE(changed.count(), 3);
     QCOMPARE(statesOf(picker), QList<bool>({true, true, true}));
@@ -293,7 +300,8 @@ void tst_FontStylePicker::followsTheLanguage()
     QTRY_COMPARE(toolTipsOf(picker), words({"Bold", "Italic", "Underline"}));
 
     // All three are set anew, whatever the application had made of them.
-    for (QToolButton* button : buttonsOf(picker))
+    const auto buttons = buttonsOf(picker);
+    for (QToolButton* button : buttons)
         button->setToolTip(QStringLiteral("changed"));
     QEvent other(QEvent::LocaleChange);
     QCoreApplication::sendEvent(&picker, &other);
@@ -327,7 +335,7 @@ void tst_FontStylePicker::parentOwnsIt()
     auto parent = std::make_unique<QWidget>();
     const QPointer<FontStylePicker> picker = new FontStylePicker(parent.get());
     QCOMPARE(picker->parentWidget(), parent.get());
-    const QPointer<QToolButton> button = buttonsOf(*picker).first();
+    const QPointer<QToolButton> button = buttonsOf(*picker).constFirst();
     parent.reset();
     QVERIFY(!picker);
     QVERIFY(!button);

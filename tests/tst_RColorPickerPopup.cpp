@@ -410,7 +410,7 @@ void tst_RColorPickerPopup::acceptedDialogSelects()
     press(popup, onMore);
     QCOMPARE(record.entries.first(), QStringLiteral("closed"));
     QCOMPARE(record.entries.filter(QStringLiteral("selected")).size(), 1);
-    QVERIFY(record.entries.filter(QStringLiteral("selected")).first().startsWith(QStringLiteral("selected #0a141e")));
+    QVERIFY(record.entries.filter(QStringLiteral("selected")).constFirst().startsWith(QStringLiteral("selected #0a141e")));
     QVERIFY(!popup.isVisible());
     QCOMPARE(picker.color(), QColor(10, 20, 30));
 }

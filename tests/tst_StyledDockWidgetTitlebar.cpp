@@ -342,7 +342,8 @@ void tst_StyledDockWidgetTitlebar::restoreToolTip()
 void tst_StyledDockWidgetTitlebar::followsTheLanguage()
 {
     QStringList translated;
-    for (const QString& text : sourceTexts())
+    const auto texts = sourceTexts();
+    for (const QString& text : texts)
         translated << ContextTranslator::translated(text.toUtf8().constData());
     StyledDockWidgetTitlebar bar;
     {

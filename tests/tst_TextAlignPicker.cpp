@@ -44,7 +44,8 @@ QList<QToolButton*> buttonsOf(const QWidget& picker)
 QStringList toolTipsOf(const QWidget& picker)
 {
     QStringList texts;
-    for (const QToolButton* button : buttonsOf(picker))
+    const auto buttons = buttonsOf(picker);
+    for (const QToolButton* button : buttons)
         texts << button->toolTip();
     return texts;
 }
@@ -61,7 +62,8 @@ QStringList expectedToolTips()
 QString checked(const QWidget& picker)
 {
     QStringList tags;
-    for (const QToolButton* button : buttonsOf(picker)) {
+    const auto buttons = buttonsOf(picker);
+    for (const QToolButton* button : buttons) {
         if (button->isChecked())
             tags << button->property("styleTag").toString();
     }
@@ -70,7 +72,8 @@ QString checked(const QWidget& picker)
 
 QToolButton* button(const QWidget& picker, const char* tag)
 {
-    for (QToolButton* candidate : buttonsOf(picker)) {
+    const auto candidates = buttonsOf(picker);
+    for (QToolButton* candidate : candidates) {
         if (candidate->property("styleTag").toString() == QLatin1String(tag))
             return candidate;
     }
@@ -318,7 +321,8 @@ void tst_TextAlignPicker::availableAlignmentsChangeNothing()
     for (const Qt::Alignment alignments : {Qt::Alignment(), Qt::Alignment(Qt::AlignLeft), Qt::Alignment(0xff)}) {
         picker.setAvailableAlignments(alignments);
         QVERIFY(QMetaObject::invokeMethod(&picker, "setAvailableAlignments", Q_ARG(Qt::Alignment, alignments)));
-        for (const QToolButton* each : buttonsOf(picker))
+        const auto buttons = buttonsOf(picker);
+        for (const QToolButton* each : buttons)
             QVERIFY(each->isVisible() && each->isEnabled());
         QCOMPARE(checked(picker), QStringLiteral("AlignRight"));
     }
@@ -350,7 +354,8 @@ void tst_TextAlignPicker::followsTheLanguage()
     }
     QTRY_COMPARE(toolTipsOf(picker), expectedToolTips());
 
-    for (QToolButton* each : buttonsOf(picker))
+    const auto buttons = buttonsOf(picker);
+    for (QToolButton* each : buttons)
         each->setToolTip(QStringLiteral("changed"));
     QEvent other(QEvent::LocaleChange);
     QCoreApplication::sendEvent(&picker, &other);
