@@ -26,7 +26,11 @@ AdvancedComboView::AdvancedComboView(AdvancedComboBox* combo, bool widePopup)
         setTextElideMode(Qt::ElideNone);
 }
 
-AdvancedComboView::~AdvancedComboView() = default;
+AdvancedComboView::~AdvancedComboView()
+{
+    // The delegate dies with the other children, when this is a plain widget.
+    stopWatching();
+}
 
 void AdvancedComboView::paintEvent(QPaintEvent* event)
 {
@@ -150,12 +154,16 @@ bool AdvancedComboView::Measured::operator==(const Measured& other) const
            logicalDpi == other.logicalDpi;
 }
 
-void AdvancedComboView::watchForChanges(const Measured& conditions)
+void AdvancedComboView::stopWatching()
 {
     for (const QMetaObject::Connection& watch : qAsConst(m_watches))
         disconnect(watch);
     m_watches.clear();
+}
 
+void AdvancedComboView::watchForChanges(const Measured& conditions)
+{
+    stopWatching();
     const auto measureAnew = [this] { m_measured = false; };
     if (conditions.model)
         m_watches = Detail::onModelChange(conditions.model, this, measureAnew);

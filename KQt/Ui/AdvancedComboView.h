@@ -49,6 +49,7 @@ private:
     QVector<const QAbstractItemDelegate*> currentDelegates(int column) const;
     int widestItem();
     void watchForChanges(const Measured& conditions);
+    void stopWatching();
     int scrollBarAllowance() const;
 
     QPointer<AdvancedComboBox> m_combo;

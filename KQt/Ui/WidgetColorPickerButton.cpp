@@ -20,6 +20,8 @@ WidgetColorPickerButton::WidgetColorPickerButton(QWidget* parent)
 
 WidgetColorPickerButton::~WidgetColorPickerButton()
 {
+    if (m_target)
+        m_target->disconnect(this);
     delete m_highlight;
 }
 
