@@ -9,6 +9,8 @@
 
 #include <utility>
 
+#include <utility>
+
 namespace Kestrel::Gui {
 
 RColorPicker::RColorPicker(QWidget* parent)
@@ -33,11 +35,11 @@ QColor RColorPicker::color() const
 
 void RColorPicker::setColor(QColor color)
 {
-    m_color = color;
-    m_popup->selectHoverColor(color);
+    m_color = std::move(color);
+    m_popup->selectHoverColor(m_color);
     if (!m_colorized)
         return;
-    setStyleSheet(QStringLiteral("#%1{background-color: %2;}").arg(objectName(), color.name()));
+    setStyleSheet(QStringLiteral("#%1{background-color: %2;}").arg(objectName(), m_color.name()));
     repaint();
 }
 
@@ -78,8 +80,8 @@ QColor RColorPicker::DefaultColor() const
 
 void RColorPicker::setDefaultColor(QColor color)
 {
-    m_defaultColor = color;
-    m_popup->selectDefaultColor(color);
+    m_defaultColor = std::move(color);
+    m_popup->selectDefaultColor(m_defaultColor);
 }
 
 bool RColorPicker::Colorized() const
@@ -101,7 +103,7 @@ void RColorPicker::on_popup_selected(QColor color)
 {
     setColor(color);
     on_popup_closed();
-    Q_EMIT changedColor(color);
+    Q_EMIT changedColor(std::move(color));
 }
 
 void RColorPicker::on_popup_closed()

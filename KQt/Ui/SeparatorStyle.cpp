@@ -1,5 +1,7 @@
 #include <KQt/Ui/SeparatorStyle.h>
 
+#include <utility>
+
 namespace Kestrel::Gui {
 
 SeparatorStyle::SeparatorStyle(QWidget* parent)
@@ -26,7 +28,7 @@ QColor SeparatorStyle::color() const
 
 void SeparatorStyle::setColor(QColor color)
 {
-    m_color = color;
+    m_color = std::move(color);
 }
 
 int SeparatorStyle::height() const
