@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStandardItemModel>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -89,6 +90,10 @@ private:
         auto* area = new QScrollArea;
         area->setWidget(form);
         area->setFixedHeight(100);
+        // Wide enough for the boxes beside the bar: the form scrolls in one direction.
+        area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        area->setMinimumWidth(form->sizeHint().width() + area->verticalScrollBar()->sizeHint().width() +
+                              2 * area->frameWidth());
         return group(tr("No wheel in a scrolling form"), area);
     }
 
