@@ -27,6 +27,38 @@
         <source>Walkthrough</source>
         <translation>جولة إرشادية</translation>
     </message>
+    <message>
+        <source>Combo boxes</source>
+        <translation>القوائم المنسدلة</translation>
+    </message>
+    <message>
+        <source>Drop and drag</source>
+        <translation>الإفلات والسحب</translation>
+    </message>
+    <message>
+        <source>Formatting</source>
+        <translation>التنسيق</translation>
+    </message>
+    <message>
+        <source>Frame over a window</source>
+        <translation>إطار فوق نافذة</translation>
+    </message>
+    <message>
+        <source>Labels and inputs</source>
+        <translation>التسميات وحقول الإدخال</translation>
+    </message>
+    <message>
+        <source>Selection frames</source>
+        <translation>إطارات التحديد</translation>
+    </message>
+    <message>
+        <source>Tiles and title bars</source>
+        <translation>المربعات وأشرطة العناوين</translation>
+    </message>
+    <message>
+        <source>Widget renderer</source>
+        <translation>راسم عناصر الواجهة</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -73,6 +105,140 @@
     <message>
         <source>Open popup here</source>
         <translation>افتح النافذة هنا</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::ComboBoxesPage</name>
+    <message>
+        <source>Combo boxes that are narrower than their items. Turn the wheel over the form, open the lists.</source>
+        <translation>قوائم منسدلة أضيق من عناصرها. أدر عجلة الفأرة فوق النموذج، وافتح القوائم.</translation>
+    </message>
+    <message>
+        <source>Narrow box</source>
+        <translation>قائمة ضيقة</translation>
+    </message>
+    <message>
+        <source>Elided text and wide popup</source>
+        <translation>نص مختصر ونافذة منبثقة عريضة</translation>
+    </message>
+    <message>
+        <source>Row %1</source>
+        <translation>الصف %1</translation>
+    </message>
+    <message>
+        <source>No wheel in a scrolling form</source>
+        <translation>لا عجلة في نموذج قابل للتمرير</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>تراجع</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>قص</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>نسخ</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>لصق</translation>
+    </message>
+    <message>
+        <source>Box with separators</source>
+        <translation>قائمة بفواصل</translation>
+    </message>
+    <message>
+        <source>Separators</source>
+        <translation>الفواصل</translation>
+    </message>
+    <message>
+        <source>A preset with a rather long name</source>
+        <translation>إعداد مسبق ذو اسم طويل بعض الشيء</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>الإعدادات المسبقة</translation>
+    </message>
+    <message>
+        <source>Calm</source>
+        <translation>هادئ</translation>
+    </message>
+    <message>
+        <source>Bright</source>
+        <translation>ساطع</translation>
+    </message>
+    <message>
+        <source>Night</source>
+        <translation>ليلي</translation>
+    </message>
+    <message>
+        <source>Preset panel</source>
+        <translation>لوحة الإعدادات المسبقة</translation>
+    </message>
+    <message>
+        <source>Wide popup</source>
+        <translation>نافذة منبثقة عريضة</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>عجلة الفأرة</translation>
+    </message>
+    <message>
+        <source>Elide text</source>
+        <translation>اختصار النص</translation>
+    </message>
+    <message>
+        <source>Tool tip:</source>
+        <translation>تلميح الأداة:</translation>
+    </message>
+    <message>
+        <source>Styled separators</source>
+        <translation>فواصل منسّقة</translation>
+    </message>
+    <message>
+        <source>Preset icon</source>
+        <translation>أيقونة الإعداد المسبق</translation>
+    </message>
+    <message>
+        <source>Short</source>
+        <translation>قصير</translation>
+    </message>
+    <message>
+        <source>An item whose text is much longer than the box</source>
+        <translation>عنصر نصه أطول بكثير من القائمة</translation>
+    </message>
+    <message>
+        <source>Another one that does not fit</source>
+        <translation>عنصر آخر لا يتسع له المكان</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::DropAndDragPage</name>
+    <message>
+        <source>Drop files from a file manager: one observer takes pictures, the other texts, and each hears of everything that is dropped. Drag the panel by any point, its button included: what was dragged is not clicked.</source>
+        <translation>أفلت ملفات من مدير الملفات: يأخذ أحد المراقبين الصور والآخر النصوص، ويعلم كل منهما بكل ما يُفلَت. اسحب اللوحة من أي نقطة، حتى من زرها: ما سُحب لا يُعدّ منقورًا.</translation>
+    </message>
+    <message>
+        <source>Pictures are welcome</source>
+        <translation>الصور مرحّب بها</translation>
+    </message>
+    <message>
+        <source>Texts are welcome</source>
+        <translation>النصوص مرحّب بها</translation>
+    </message>
+    <message>
+        <source>Drop pictures or texts here</source>
+        <translation>أفلت الصور أو النصوص هنا</translation>
+    </message>
+    <message>
+        <source>Drag me anywhere</source>
+        <translation>اسحبني إلى أي مكان</translation>
+    </message>
+    <message>
+        <source>Click me</source>
+        <translation>انقرني</translation>
     </message>
 </context>
 <context>
@@ -138,6 +304,77 @@
     </message>
 </context>
 <context>
+    <name>Gallery::FormattingPage</name>
+    <message>
+        <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
+        <translation>نسّق العيّنة بالشريطين. تأتي أيقوناتهما من ورقة أنماط الصفحة التي تحدد الأزرار بخاصيتها &quot;styleTag&quot;.</translation>
+    </message>
+    <message>
+        <source>The quick brown fox jumps over the lazy dog, and the dog, being lazy, lets it jump as often as it likes.</source>
+        <translation>يقفز الثعلب البني السريع فوق الكلب الكسول، والكلب لكسله يدعه يقفز كلما شاء.</translation>
+    </message>
+    <message>
+        <source>Plain font</source>
+        <translation>خط عادي</translation>
+    </message>
+    <message>
+        <source>The program sets a font: a signal for each toggle that changes.</source>
+        <translation>يضبط البرنامج خطًا: إشارة لكل زر تبديل يتغير.</translation>
+    </message>
+    <message>
+        <source>Set to left</source>
+        <translation>ضبط إلى اليسار</translation>
+    </message>
+    <message>
+        <source>The program checks a button: no signal, and the sample stays as it is.</source>
+        <translation>يحدد البرنامج زرًا: لا إشارة، وتبقى العيّنة كما هي.</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>مُفعّل</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::FrameOverWindowPage</name>
+    <message>
+        <source>The window below goes on living while the frame lies over it. In edit mode the mouse moves the frame; otherwise it reaches the window.</source>
+        <translation>تظل النافذة أدناه حية بينما يعلوها الإطار. في وضع التحرير تحرّك الفأرة الإطار، وفي غيره تصل إلى النافذة.</translation>
+    </message>
+    <message>
+        <source>Type here while edit mode is off</source>
+        <translation>اكتب هنا عندما يكون وضع التحرير متوقفًا</translation>
+    </message>
+    <message>
+        <source>Press here while edit mode is off</source>
+        <translation>اضغط هنا عندما يكون وضع التحرير متوقفًا</translation>
+    </message>
+    <message>
+        <source>A window with its own life</source>
+        <translation>نافذة لها حياتها الخاصة</translation>
+    </message>
+    <message>
+        <source>From %1 %, %2 %: %3 % wide, %4 % high</source>
+        <comment>position and size of the frame</comment>
+        <translation>من %1 %، %2 %: العرض %3 %، الارتفاع %4 %</translation>
+    </message>
+    <message>
+        <source>Edit mode</source>
+        <translation>وضع التحرير</translation>
+    </message>
+    <message>
+        <source>Keep the ratio</source>
+        <translation>الحفاظ على النسبة</translation>
+    </message>
+    <message>
+        <source>Work rect</source>
+        <translation>منطقة العمل</translation>
+    </message>
+    <message>
+        <source>Veil</source>
+        <translation>التعتيم</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::GalleryHint</name>
     <message>
         <source>Next</source>
@@ -150,6 +387,85 @@
     <message>
         <source>Never again</source>
         <translation>لا تظهر مجددًا</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::LabelsAndInputsPage</name>
+    <message>
+        <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
+        <translation>اسحب المقبض لتضييق العمود المجاور له: تختصر التسميات وحقل الإدخال نصوصها وتذكرها كاملة في تلميحات الأدوات. يعرض حقل الإدخال النص كله أثناء تحريره.</translation>
+    </message>
+    <message>
+        <source>A file name that is much too long for a column as narrow as this one.txt</source>
+        <translation>اسم ملف أطول بكثير مما يتسع له عمود ضيق كهذا.txt</translation>
+    </message>
+    <message>
+        <source>Mixed directions: %1, elided in order</source>
+        <translation>اتجاهات مختلطة (KQtUi): %1، مختصرة بالترتيب</translation>
+    </message>
+    <message>
+        <source>Short</source>
+        <translation>قصير</translation>
+    </message>
+    <message>
+        <source>Drag the handle at the edge of this field.</source>
+        <translation>اسحب المقبض عند حافة هذا الحقل.</translation>
+    </message>
+    <message>
+        <source>Press here, with any button</source>
+        <translation>اضغط هنا بأي زر</translation>
+    </message>
+    <message>
+        <source>Clipped text</source>
+        <translation>نص مختصر</translation>
+    </message>
+    <message>
+        <source>A text that is shown whole while you edit it, and elided while you do not</source>
+        <translation>نص يظهر كاملًا أثناء تحريره، ومختصرًا في غير ذلك</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>الملاحظات</translation>
+    </message>
+    <message>
+        <source>Labels report presses</source>
+        <translation>التسميات تبلغ عن الضغطات</translation>
+    </message>
+    <message>
+        <source>Labels elide their texts</source>
+        <translation>التسميات تختصر نصوصها</translation>
+    </message>
+    <message>
+        <source>at the end</source>
+        <translation>في النهاية</translation>
+    </message>
+    <message>
+        <source>in the middle</source>
+        <translation>في الوسط</translation>
+    </message>
+    <message>
+        <source>at the beginning</source>
+        <translation>في البداية</translation>
+    </message>
+    <message>
+        <source>Elide</source>
+        <translation>الاختصار</translation>
+    </message>
+    <message>
+        <source>What do you think of it?</source>
+        <translation>ما رأيك فيه؟</translation>
+    </message>
+    <message>
+        <source>Placeholder</source>
+        <translation>النص النائب</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>العدد</translation>
+    </message>
+    <message>
+        <source>Digits at most</source>
+        <translation>أقصى عدد للأرقام</translation>
     </message>
 </context>
 <context>
@@ -300,10 +616,112 @@
     </message>
 </context>
 <context>
+    <name>Gallery::SelectionFramesPage</name>
+    <message>
+        <source>Drag the frames, their corners and their sides. The small picture is what the frames are rendered to, with its alpha.</source>
+        <translation>اسحب الإطارات وزواياها وجوانبها. الصورة الصغيرة هي ما تُرسم إليه الإطارات، مع قناة ألفا.</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>الصورة</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>النص</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>المنطقة</translation>
+    </message>
+    <message>
+        <source>Holiday by the sea</source>
+        <translation>عطلة على البحر</translation>
+    </message>
+    <message>
+        <source>Picture keeps its ratio</source>
+        <translation>الصورة تحافظ على نسبتها</translation>
+    </message>
+    <message>
+        <source>Region keeps its ratio</source>
+        <translation>المنطقة تحافظ على نسبتها</translation>
+    </message>
+    <message>
+        <source>Work rect</source>
+        <translation>منطقة العمل</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>الشفافية</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>التعبئة</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>الحدود الخارجية</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>الخط</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::SignalLog</name>
     <message>
         <source>Signals appear here.</source>
         <translation>تظهر الإشارات هنا.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::TilesPage</name>
+    <message>
+        <source>Tiles with a star, a play button and a duration over a picture; and a panel whose title bar can be dragged, detached and closed.</source>
+        <translation>مربعات عليها نجمة وزر تشغيل ومدة فوق صورة؛ ولوحة يمكن سحب شريط عنوانها وفصلها وإغلاقها.</translation>
+    </message>
+    <message>
+        <source>Sunrise</source>
+        <translation>الشروق</translation>
+    </message>
+    <message>
+        <source>Noon</source>
+        <translation>الظهيرة</translation>
+    </message>
+    <message>
+        <source>Sunset</source>
+        <translation>الغروب</translation>
+    </message>
+    <message>
+        <source>Night</source>
+        <translation>الليل</translation>
+    </message>
+    <message>
+        <source>Pin playlist</source>
+        <translation>تثبيت قائمة التشغيل</translation>
+    </message>
+    <message>
+        <source>Unpin playlist</source>
+        <translation>إلغاء تثبيت قائمة التشغيل</translation>
+    </message>
+    <message>
+        <source>Stars</source>
+        <translation>النجوم</translation>
+    </message>
+    <message>
+        <source>Play buttons</source>
+        <translation>أزرار التشغيل</translation>
+    </message>
+    <message>
+        <source>Clips can be played</source>
+        <translation>المقاطع قابلة للتشغيل</translation>
+    </message>
+    <message>
+        <source>Styled as floating</source>
+        <translation>بمظهر عائم</translation>
+    </message>
+    <message>
+        <source>Show the panel</source>
+        <translation>إظهار اللوحة</translation>
     </message>
 </context>
 <context>
@@ -450,6 +868,29 @@
     <message>
         <source>entered %1</source>
         <translation>دخول %1</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::WidgetRendererPage</name>
+    <message>
+        <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
+        <translation>تُرسم عناصر الواجهة هنا في الصورة المجاورة لها، وتُقتطع من نافذتها. وحتى بعد اقتطاعها تظل تستجيب للفأرة.</translation>
+    </message>
+    <message>
+        <source>Compose</source>
+        <translation>تركيب</translation>
+    </message>
+    <message>
+        <source>Give back</source>
+        <translation>إعادة</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>زر</translation>
+    </message>
+    <message>
+        <source>Check box</source>
+        <translation>خانة اختيار</translation>
     </message>
 </context>
 </TS>

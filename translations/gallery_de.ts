@@ -27,6 +27,38 @@
         <source>Walkthrough</source>
         <translation>Rundgang</translation>
     </message>
+    <message>
+        <source>Combo boxes</source>
+        <translation>Kombinationsfelder</translation>
+    </message>
+    <message>
+        <source>Drop and drag</source>
+        <translation>Ablegen und Ziehen</translation>
+    </message>
+    <message>
+        <source>Formatting</source>
+        <translation>Formatierung</translation>
+    </message>
+    <message>
+        <source>Frame over a window</source>
+        <translation>Rahmen über einem Fenster</translation>
+    </message>
+    <message>
+        <source>Labels and inputs</source>
+        <translation>Beschriftungen und Eingaben</translation>
+    </message>
+    <message>
+        <source>Selection frames</source>
+        <translation>Auswahlrahmen</translation>
+    </message>
+    <message>
+        <source>Tiles and title bars</source>
+        <translation>Kacheln und Titelleisten</translation>
+    </message>
+    <message>
+        <source>Widget renderer</source>
+        <translation>Widget-Renderer</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -73,6 +105,140 @@
     <message>
         <source>Open popup here</source>
         <translation>Popup hier öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::ComboBoxesPage</name>
+    <message>
+        <source>Combo boxes that are narrower than their items. Turn the wheel over the form, open the lists.</source>
+        <translation>Kombinationsfelder, die schmaler sind als ihre Einträge. Drehen Sie das Mausrad über dem Formular, öffnen Sie die Listen.</translation>
+    </message>
+    <message>
+        <source>Narrow box</source>
+        <translation>Schmales Feld</translation>
+    </message>
+    <message>
+        <source>Elided text and wide popup</source>
+        <translation>Gekürzter Text und breites Popup</translation>
+    </message>
+    <message>
+        <source>Row %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>No wheel in a scrolling form</source>
+        <translation>Kein Mausrad in einem rollenden Formular</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Box with separators</source>
+        <translation>Feld mit Trennlinien</translation>
+    </message>
+    <message>
+        <source>Separators</source>
+        <translation>Trennlinien</translation>
+    </message>
+    <message>
+        <source>A preset with a rather long name</source>
+        <translation>Eine Voreinstellung mit einem recht langen Namen</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>Calm</source>
+        <translation>Ruhig</translation>
+    </message>
+    <message>
+        <source>Bright</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Night</source>
+        <translation>Nacht</translation>
+    </message>
+    <message>
+        <source>Preset panel</source>
+        <translation>Tafel mit Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>Wide popup</source>
+        <translation>Breites Popup</translation>
+    </message>
+    <message>
+        <source>Mouse wheel</source>
+        <translation>Mausrad</translation>
+    </message>
+    <message>
+        <source>Elide text</source>
+        <translation>Text kürzen</translation>
+    </message>
+    <message>
+        <source>Tool tip:</source>
+        <translation>Tooltip:</translation>
+    </message>
+    <message>
+        <source>Styled separators</source>
+        <translation>Gestaltete Trennlinien</translation>
+    </message>
+    <message>
+        <source>Preset icon</source>
+        <translation>Symbol der Voreinstellung</translation>
+    </message>
+    <message>
+        <source>Short</source>
+        <translation>Kurz</translation>
+    </message>
+    <message>
+        <source>An item whose text is much longer than the box</source>
+        <translation>Ein Eintrag, dessen Text viel länger ist als das Feld</translation>
+    </message>
+    <message>
+        <source>Another one that does not fit</source>
+        <translation>Noch einer, der nicht hineinpasst</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::DropAndDragPage</name>
+    <message>
+        <source>Drop files from a file manager: one observer takes pictures, the other texts, and each hears of everything that is dropped. Drag the panel by any point, its button included: what was dragged is not clicked.</source>
+        <translation>Legen Sie Dateien aus einer Dateiverwaltung ab: Ein Beobachter nimmt Bilder, der andere Texte, und jeder erfährt von allem, was abgelegt wird. Ziehen Sie die Tafel an einem beliebigen Punkt, auch an ihrem Knopf: Was gezogen wurde, wird nicht angeklickt.</translation>
+    </message>
+    <message>
+        <source>Pictures are welcome</source>
+        <translation>Bilder sind willkommen</translation>
+    </message>
+    <message>
+        <source>Texts are welcome</source>
+        <translation>Texte sind willkommen</translation>
+    </message>
+    <message>
+        <source>Drop pictures or texts here</source>
+        <translation>Bilder oder Texte hier ablegen</translation>
+    </message>
+    <message>
+        <source>Drag me anywhere</source>
+        <translation>Ziehen Sie mich irgendwohin</translation>
+    </message>
+    <message>
+        <source>Click me</source>
+        <translation>Klicken Sie mich an</translation>
     </message>
 </context>
 <context>
@@ -138,6 +304,77 @@
     </message>
 </context>
 <context>
+    <name>Gallery::FormattingPage</name>
+    <message>
+        <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
+        <translation>Formatieren Sie das Beispiel mit den beiden Leisten. Ihre Symbole stammen aus dem Stylesheet der Seite, das die Knöpfe nach ihrer Eigenschaft „styleTag“ auswählt.</translation>
+    </message>
+    <message>
+        <source>The quick brown fox jumps over the lazy dog, and the dog, being lazy, lets it jump as often as it likes.</source>
+        <translation>Der flinke braune Fuchs springt über den faulen Hund, und der Hund, faul wie er ist, lässt ihn springen, so oft er will.</translation>
+    </message>
+    <message>
+        <source>Plain font</source>
+        <translation>Einfache Schrift</translation>
+    </message>
+    <message>
+        <source>The program sets a font: a signal for each toggle that changes.</source>
+        <translation>Das Programm setzt eine Schrift: ein Signal für jeden Schalter, der sich ändert.</translation>
+    </message>
+    <message>
+        <source>Set to left</source>
+        <translation>Auf linksbündig setzen</translation>
+    </message>
+    <message>
+        <source>The program checks a button: no signal, and the sample stays as it is.</source>
+        <translation>Das Programm wählt einen Knopf: kein Signal, und das Beispiel bleibt, wie es ist.</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Aktiviert</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::FrameOverWindowPage</name>
+    <message>
+        <source>The window below goes on living while the frame lies over it. In edit mode the mouse moves the frame; otherwise it reaches the window.</source>
+        <translation>Das Fenster unten lebt weiter, während der Rahmen darüber liegt. Im Bearbeitungsmodus bewegt die Maus den Rahmen; sonst erreicht sie das Fenster.</translation>
+    </message>
+    <message>
+        <source>Type here while edit mode is off</source>
+        <translation>Hier tippen, solange der Bearbeitungsmodus aus ist</translation>
+    </message>
+    <message>
+        <source>Press here while edit mode is off</source>
+        <translation>Hier drücken, solange der Bearbeitungsmodus aus ist</translation>
+    </message>
+    <message>
+        <source>A window with its own life</source>
+        <translation>Ein Fenster mit Eigenleben</translation>
+    </message>
+    <message>
+        <source>From %1 %, %2 %: %3 % wide, %4 % high</source>
+        <comment>position and size of the frame</comment>
+        <translation>Ab %1 %, %2 %: %3 % breit, %4 % hoch</translation>
+    </message>
+    <message>
+        <source>Edit mode</source>
+        <translation>Bearbeitungsmodus</translation>
+    </message>
+    <message>
+        <source>Keep the ratio</source>
+        <translation>Seitenverhältnis beibehalten</translation>
+    </message>
+    <message>
+        <source>Work rect</source>
+        <translation>Arbeitsbereich</translation>
+    </message>
+    <message>
+        <source>Veil</source>
+        <translation>Schleier</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::GalleryHint</name>
     <message>
         <source>Next</source>
@@ -150,6 +387,85 @@
     <message>
         <source>Never again</source>
         <translation>Nie wieder</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::LabelsAndInputsPage</name>
+    <message>
+        <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
+        <translation>Ziehen Sie am Griff, um die Spalte links davon schmaler zu machen: Die Beschriftungen und das Eingabefeld kürzen ihre Texte und nennen sie vollständig in Tooltips. Das Eingabefeld zeigt alles, während Sie es bearbeiten.</translation>
+    </message>
+    <message>
+        <source>A file name that is much too long for a column as narrow as this one.txt</source>
+        <translation>Ein Dateiname, der für eine so schmale Spalte wie diese viel zu lang ist.txt</translation>
+    </message>
+    <message>
+        <source>Mixed directions: %1, elided in order</source>
+        <translation>Gemischte Richtungen: %1, in Lesefolge gekürzt</translation>
+    </message>
+    <message>
+        <source>Short</source>
+        <translation>Kurz</translation>
+    </message>
+    <message>
+        <source>Drag the handle at the edge of this field.</source>
+        <translation>Ziehen Sie am Griff am Rand dieses Feldes.</translation>
+    </message>
+    <message>
+        <source>Press here, with any button</source>
+        <translation>Hier drücken, mit beliebiger Maustaste</translation>
+    </message>
+    <message>
+        <source>Clipped text</source>
+        <translation>Gekürzter Text</translation>
+    </message>
+    <message>
+        <source>A text that is shown whole while you edit it, and elided while you do not</source>
+        <translation>Ein Text, der beim Bearbeiten vollständig zu sehen ist und sonst gekürzt</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+    <message>
+        <source>Labels report presses</source>
+        <translation>Beschriftungen melden Mausdrücke</translation>
+    </message>
+    <message>
+        <source>Labels elide their texts</source>
+        <translation>Beschriftungen kürzen ihre Texte</translation>
+    </message>
+    <message>
+        <source>at the end</source>
+        <translation>am Ende</translation>
+    </message>
+    <message>
+        <source>in the middle</source>
+        <translation>in der Mitte</translation>
+    </message>
+    <message>
+        <source>at the beginning</source>
+        <translation>am Anfang</translation>
+    </message>
+    <message>
+        <source>Elide</source>
+        <translation>Kürzen</translation>
+    </message>
+    <message>
+        <source>What do you think of it?</source>
+        <translation>Was halten Sie davon?</translation>
+    </message>
+    <message>
+        <source>Placeholder</source>
+        <translation>Platzhalter</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>Digits at most</source>
+        <translation>Stellen höchstens</translation>
     </message>
 </context>
 <context>
@@ -300,10 +616,112 @@
     </message>
 </context>
 <context>
+    <name>Gallery::SelectionFramesPage</name>
+    <message>
+        <source>Drag the frames, their corners and their sides. The small picture is what the frames are rendered to, with its alpha.</source>
+        <translation>Ziehen Sie die Rahmen, ihre Ecken und ihre Seiten. Das kleine Bild ist das, was aus den Rahmen gezeichnet wird, mit seinem Alphakanal.</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>Holiday by the sea</source>
+        <translation>Urlaub am Meer</translation>
+    </message>
+    <message>
+        <source>Picture keeps its ratio</source>
+        <translation>Bild behält sein Seitenverhältnis</translation>
+    </message>
+    <message>
+        <source>Region keeps its ratio</source>
+        <translation>Bereich behält sein Seitenverhältnis</translation>
+    </message>
+    <message>
+        <source>Work rect</source>
+        <translation>Arbeitsbereich</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Durchsichtigkeit</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllung</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>Umriss</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::SignalLog</name>
     <message>
         <source>Signals appear here.</source>
         <translation>Hier erscheinen Signale.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::TilesPage</name>
+    <message>
+        <source>Tiles with a star, a play button and a duration over a picture; and a panel whose title bar can be dragged, detached and closed.</source>
+        <translation>Kacheln mit einem Stern, einem Abspielknopf und einer Dauer über einem Bild; dazu eine Tafel, deren Titelleiste sich ziehen, ablösen und schließen lässt.</translation>
+    </message>
+    <message>
+        <source>Sunrise</source>
+        <translation>Sonnenaufgang</translation>
+    </message>
+    <message>
+        <source>Noon</source>
+        <translation>Mittag</translation>
+    </message>
+    <message>
+        <source>Sunset</source>
+        <translation>Sonnenuntergang</translation>
+    </message>
+    <message>
+        <source>Night</source>
+        <translation>Nacht</translation>
+    </message>
+    <message>
+        <source>Pin playlist</source>
+        <translation>Wiedergabeliste anheften</translation>
+    </message>
+    <message>
+        <source>Unpin playlist</source>
+        <translation>Wiedergabeliste lösen</translation>
+    </message>
+    <message>
+        <source>Stars</source>
+        <translation>Sterne</translation>
+    </message>
+    <message>
+        <source>Play buttons</source>
+        <translation>Abspielknöpfe</translation>
+    </message>
+    <message>
+        <source>Clips can be played</source>
+        <translation>Clips sind abspielbar</translation>
+    </message>
+    <message>
+        <source>Styled as floating</source>
+        <translation>Als schwebend gestaltet</translation>
+    </message>
+    <message>
+        <source>Show the panel</source>
+        <translation>Tafel zeigen</translation>
     </message>
 </context>
 <context>
@@ -450,6 +868,29 @@
     <message>
         <source>entered %1</source>
         <translation>%1 betreten</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::WidgetRendererPage</name>
+    <message>
+        <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
+        <translation>Die Widgets links werden in das Bild rechts gezeichnet und aus ihrem Fenster ausgeschnitten. Auch ausgeschnitten reagieren sie noch auf die Maus.</translation>
+    </message>
+    <message>
+        <source>Compose</source>
+        <translation>Zusammensetzen</translation>
+    </message>
+    <message>
+        <source>Give back</source>
+        <translation>Zurückgeben</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>Schaltfläche</translation>
+    </message>
+    <message>
+        <source>Check box</source>
+        <translation>Kontrollkästchen</translation>
     </message>
 </context>
 </TS>

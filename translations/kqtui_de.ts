@@ -13,6 +13,21 @@
     </message>
 </context>
 <context>
+    <name>Kestrel::Gui::FontStylePicker</name>
+    <message>
+        <source>Bold</source>
+        <translation>Fett</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <translation>Kursiv</translation>
+    </message>
+    <message>
+        <source>Underline</source>
+        <translation>Unterstrichen</translation>
+    </message>
+</context>
+<context>
     <name>Kestrel::Gui::LineWidthComboBox</name>
     <message>
         <source>none</source>
@@ -29,6 +44,13 @@
     </message>
 </context>
 <context>
+    <name>Kestrel::Gui::PreviewImageLabel</name>
+    <message>
+        <source>Applied effects</source>
+        <translation>Angewendete Effekte</translation>
+    </message>
+</context>
+<context>
     <name>Kestrel::Gui::RColorPickerPopup</name>
     <message>
         <source>More...</source>
@@ -42,10 +64,48 @@
     </message>
 </context>
 <context>
+    <name>Kestrel::Gui::TextAlignPicker</name>
+    <message>
+        <source>Align left</source>
+        <translation>Linksbündig</translation>
+    </message>
+    <message>
+        <source>Align right</source>
+        <translation>Rechtsbündig</translation>
+    </message>
+    <message>
+        <source>Justify</source>
+        <translation>Blocksatz</translation>
+    </message>
+    <message>
+        <source>Align center</source>
+        <translation>Zentriert</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Left: %1# Top: %2# Width: %3# Height: %4#</source>
         <translation>Links: %1# Oben: %2# Breite: %3# Höhe: %4#</translation>
+    </message>
+</context>
+<context>
+    <name>StyledDockWidgetTitlebar</name>
+    <message>
+        <source>StyledDockWidgetTitlebar</source>
+        <translation>StyledDockWidgetTitlebar</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <translation>Wiedergabeliste</translation>
+    </message>
+    <message>
+        <source>Unpin playlist</source>
+        <translation>Wiedergabeliste lösen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 </TS>
