@@ -37,7 +37,7 @@ public:
     {
         const QString text = QString::fromStdString(url);
         bool vote = false;
-        for (const QString& ending : m_endings)
+        for (const QString& ending : qAsConst(m_endings))
             vote = vote || text.endsWith(ending, Qt::CaseInsensitive);
         m_report(QStringLiteral("%1.CanDropUrl(\"%2\"): %3")
                      .arg(m_name, text, vote ? QStringLiteral("true") : QStringLiteral("false")));

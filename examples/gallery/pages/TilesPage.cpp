@@ -134,11 +134,11 @@ private:
                 m_tiles.at(i)->setStarIsVisible(on);
         });
         addSwitch(tr("Play buttons"), true, [this](bool on) {
-            for (PreviewImageLabel* tile : m_tiles)
+            for (PreviewImageLabel* tile : qAsConst(m_tiles))
                 tile->setPlayIsVisible(on);
         });
         addSwitch(tr("Clips can be played"), true, [this](bool on) {
-            for (PreviewImageLabel* tile : m_tiles)
+            for (PreviewImageLabel* tile : qAsConst(m_tiles))
                 tile->SetItemsEnabled(on);
         });
         addSwitch(tr("Styled as floating"), false, [this](bool on) { m_titleBar->SetFloating(on); });
