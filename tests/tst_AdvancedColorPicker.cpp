@@ -573,7 +573,7 @@ void tst_AdvancedColorPicker::parentMayBeHiddenOrDeletedWithAnOpenPopup()
     parent->show();
     m_picker->showPopup();
     QVERIFY(window->isVisible());
-    m_picker.release();
+    Q_UNUSED(m_picker.release()) // its parent deletes it
     parent.reset();
     QVERIFY(!window);
 }

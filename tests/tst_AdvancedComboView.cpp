@@ -440,7 +440,7 @@ void tst_AdvancedComboView::fontAndStyleChangesLayOutAnewFromTheEventLoop()
         QCoreApplication::sendEvent(f.view.get(), &event);
         QCOMPARE(f.view->flow(), QListView::LeftToRight);
         QTRY_COMPARE(f.view->flow(), QListView::TopToBottom);
-        QVERIFY(f.view->findChildren<QObject*>(QString(), Qt::FindDirectChildrenOnly).size() > 0);
+        QVERIFY(!f.view->findChildren<QObject*>(QString(), Qt::FindDirectChildrenOnly).isEmpty());
     }
 }
 

@@ -10,6 +10,8 @@
 
 #include <QtTest>
 
+#include <utility>
+
 using Kestrel::Gui::LineWidthComboBox;
 using TestSupport::ContextTranslator;
 using TestSupport::render;
@@ -32,7 +34,7 @@ class ReferenceBox : public QComboBox
 {
 public:
     ReferenceBox(const QVariant& width, Sample sample)
-        : m_sample(sample)
+        : m_sample(std::move(sample))
     {
         if (width.isValid())
             addItem(QString(), width);

@@ -359,7 +359,7 @@ void tst_WalkthroughControllerHints::everyChangeStartsTheWaitAnew()
         qint64 longestGap = 0;
         QElapsedTimer whole;
         whole.start();
-        while (whole.elapsed() < 3 * timer->interval()) {
+        while (whole.elapsed() < qint64(3) * timer->interval()) {
             QElapsedTimer gap;
             gap.start();
             controller.gotoState(str("own/a"));
