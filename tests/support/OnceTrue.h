@@ -9,7 +9,7 @@
 namespace TestSupport {
 
 /// Calls @p action from the event loop once @p condition holds; gives up after ten seconds.
-inline void onceTrue(std::function<bool()> condition, std::function<void()> action)
+inline void onceTrue(const std::function<bool()>& condition, const std::function<void()>& action)
 {
     auto* timer = new QTimer(QCoreApplication::instance());
     timer->setInterval(1);
