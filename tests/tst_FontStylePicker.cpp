@@ -211,7 +211,7 @@ void tst_FontStylePicker::readsAFont_data()
 {
     QTest::addColumn<QFont>("font");
     QTest::addColumn<QList<bool>>("states");
-    const auto row = [](const char* name, int weight, QFont::Style style, bool underline, QList<bool> states) {
+    const auto row = [](const char* name, int weight, QFont::Style style, bool underline, const QList<bool>& states) {
         QTest::newRow(name) << fontWith(weight, style, underline) << states;
     };
     row("plain", 50, QFont::StyleNormal, false, {false, false, false});

@@ -415,8 +415,10 @@ void tst_SelectionFrameGraphicsItem::checkBounds()
 void tst_SelectionFrameGraphicsItem::sceneFollowsTheGrowingFrame()
 {
     QGraphicsScene scene(0, 0, 4000, 4000);
-    for (int i = 0; i < 200; ++i)
-        scene.addRect((i % 20) * 200, (i / 20) * 400, 10, 10);
+    for (int y = 0; y < 4000; y += 400) {
+        for (int x = 0; x < 4000; x += 200)
+            scene.addRect(x, y, 10, 10);
+    }
     RecordingFrameHandler handler;
     auto* item = new PlainFrame(&handler);
     scene.addItem(item);
