@@ -1,5 +1,9 @@
 # The installed copy: library, public headers, CMake package and pkg-config module. Nothing in it holds an absolute path,
 # so the prefix can be chosen at installation and moved afterwards.
+#
+# Everything belongs to a component, so that packages can be made of parts of it: "runtime" is what programs need to run,
+# "development" what it takes to build them, "designer" the plugin for Qt Designer, "translations" the texts in other
+# languages, "licence" the licence's text, which distributions keep in a place of their own.
 include(CMakePackageConfigHelpers)
 
 set(KQTUI_INSTALL_CMAKEDIR ${CMAKE_INSTALL_LIBDIR}/cmake/KQtUi)
@@ -18,25 +22,26 @@ if(NOT BUILD_SHARED_LIBS)
 endif()
 
 install(TARGETS ${kqtui_targets} EXPORT KQtUiTargets
-  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
 
 get_directory_property(headers DIRECTORY ${PROJECT_SOURCE_DIR}/KQt/Ui DEFINITION KQTUI_PUBLIC_HEADERS)
 foreach(header IN LISTS headers)
   get_filename_component(folder ${header} DIRECTORY)
-  install(FILES KQt/Ui/${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/KQt/Ui/${folder})
+  install(FILES KQt/Ui/${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/KQt/Ui/${folder} COMPONENT development)
 endforeach()
-install(FILES ${PROJECT_BINARY_DIR}/include/KQt/Ui/Export.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/KQt/Ui)
-install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES ${PROJECT_BINARY_DIR}/include/KQt/Ui/Export.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/KQt/Ui
+  COMPONENT development)
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT licence)
 
 configure_package_config_file(cmake/KQtUiConfig.cmake.in ${PROJECT_BINARY_DIR}/KQtUiConfig.cmake
   INSTALL_DESTINATION ${KQTUI_INSTALL_CMAKEDIR}
   NO_SET_AND_CHECK_MACRO)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/KQtUiConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/KQtUiConfig.cmake ${PROJECT_BINARY_DIR}/KQtUiConfigVersion.cmake
-  DESTINATION ${KQTUI_INSTALL_CMAKEDIR})
-install(EXPORT KQtUiTargets NAMESPACE KQtUi:: DESTINATION ${KQTUI_INSTALL_CMAKEDIR})
+  DESTINATION ${KQTUI_INSTALL_CMAKEDIR} COMPONENT development)
+install(EXPORT KQtUiTargets NAMESPACE KQtUi:: DESTINATION ${KQTUI_INSTALL_CMAKEDIR} COMPONENT development)
 
 # Folders as pkg-config sees them: from the prefix on where they lie beneath it.
 function(kqtui_pkgconfig_folder result folder)
@@ -69,4 +74,4 @@ if(NOT BUILD_SHARED_LIBS)
   string(REGEX REPLACE " ([a-z]+)$" " -l\\1" KQTUI_PC_LIBS "${KQTUI_PC_LIBS}")
 endif()
 configure_file(cmake/kqtui.pc.in ${PROJECT_BINARY_DIR}/kqtui.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/kqtui.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+install(FILES ${PROJECT_BINARY_DIR}/kqtui.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
