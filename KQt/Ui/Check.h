@@ -22,8 +22,12 @@
     ::Kestrel::Gui::Detail::throwInvalidArgument(message, BOOST_CURRENT_FUNCTION, KQTUI_SOURCE_FILE, __LINE__)
 
 /// Throws `std::runtime_error` with @p message (a string literal) from the calling function. Never returns.
-#define KQTUI_THROW_RUNTIME_ERROR(message)                                                                             \
-    ::Kestrel::Gui::Detail::throwRuntimeError(message, BOOST_CURRENT_FUNCTION, KQTUI_SOURCE_FILE, __LINE__)
+#define KQTUI_THROW_RUNTIME_ERROR(message) KQTUI_THROW_RUNTIME_ERROR_AT(message, __LINE__)
+
+/// The same with @p line as the place in the file, for checks that readers of logs know by their line: a named constant,
+/// which stays what it is when the check moves.
+#define KQTUI_THROW_RUNTIME_ERROR_AT(message, line)                                                                    \
+    ::Kestrel::Gui::Detail::throwRuntimeError(message, BOOST_CURRENT_FUNCTION, KQTUI_SOURCE_FILE, line)
 
 /// The current source file as the library names it: from "KQt/Ui/" on with forward slashes, wherever the file lies and
 /// however the compiler was handed its path. A `const char*` that is valid for ever.
