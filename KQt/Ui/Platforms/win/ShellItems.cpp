@@ -4,19 +4,22 @@
 
 #include <shlobj.h>
 
+#include <optional>
+#include <string>
+
 namespace Kestrel::Gui {
 
 using Microsoft::WRL::ComPtr;
 
 namespace {
 
-/// Null where @p item has no path.
-QString pathOfItem(IShellItem* item)
+/// Nothing where @p item has no path.
+std::optional<QString> pathOfItem(IShellItem* item)
 {
     wchar_t* name = nullptr;
     if (FAILED(item->GetDisplayName(SIGDN_FILESYSPATH, &name)) || !name)
-        return {};
-    const QString path = QDir::fromNativeSeparators(QString::fromWCharArray(name));
+        return std::nullopt;
+    QString path = QDir::fromNativeSeparators(QString::fromWCharArray(name));
     CoTaskMemFree(name);
     return path;
 }
@@ -47,9 +50,8 @@ QStringList pathsOfItems(IShellItemArray* items)
         ComPtr<IShellItem> item;
         if (FAILED(items->GetItemAt(i, item.GetAddressOf())) || !item)
             continue;
-        const QString path = pathOfItem(item.Get());
-        if (!path.isNull())
-            paths.append(path);
+        if (const std::optional<QString> path = pathOfItem(item.Get()))
+            paths.append(*path);
     }
     return paths;
 }
