@@ -140,6 +140,7 @@ private Q_SLOTS:
     void pageGoesWhileTheMouseIsOnIt();
     void pageKeepsItsStateWhileAnotherIsShown();
     void filterShortensTheList();
+    void newEntriesKeepTheCurrentPage();
     void arrowKeysInTheFilterMoveThroughTheList();
     void noTextIsCutOff_data();
     void noTextIsCutOff();
@@ -228,9 +229,9 @@ void tst_Gallery::commandLine()
     QVERIFY(!defaults->help);
     QVERIFY(defaults->screenshotFolder.isEmpty());
     QVERIFY(defaults->page.isEmpty());
-    QCOMPARE(defaults->scheme, Scheme::Light);
+    QVERIFY(!defaults->scheme);
     QVERIFY(!defaults->rightToLeft);
-    QCOMPARE(defaults->language, QStringLiteral("en"));
+    QVERIFY(!defaults->language);
 
     const auto all =
         CommandLine().read({QStringLiteral("gallery"), QStringLiteral("--screenshots"), QStringLiteral("there"),
@@ -239,9 +240,9 @@ void tst_Gallery::commandLine()
     QVERIFY(all);
     QCOMPARE(all->screenshotFolder, QStringLiteral("there"));
     QCOMPARE(all->page, eventsSlug);
-    QCOMPARE(all->scheme, Scheme::Dark);
-    QVERIFY(all->rightToLeft);
-    QCOMPARE(all->language, QStringLiteral("de"));
+    QVERIFY(all->scheme == Scheme::Dark);
+    QVERIFY(all->rightToLeft == true);
+    QVERIFY(all->language == QStringLiteral("de"));
 
     QVERIFY(CommandLine().read({QStringLiteral("gallery"), QStringLiteral("--help")})->help);
 }
@@ -382,7 +383,9 @@ void tst_Gallery::pageKeepsItsStateWhileAnotherIsShown()
 void tst_Gallery::filterShortensTheList()
 {
     PageList list;
-    list.setTitles({QStringLiteral("Apple"), QStringLiteral("Pear"), QStringLiteral("Pineapple")});
+    list.setEntries({{QStringLiteral("Apple"), {}},
+                     {QStringLiteral("Pear"), {QStringLiteral("Stalk"), QStringLiteral("Core")}},
+                     {QStringLiteral("Pineapple"), {}}});
     list.setCurrent(1);
     QSignalSpy changed(&list, &PageList::currentChanged);
     auto* filter = list.findChild<QLineEdit*>();
@@ -405,12 +408,30 @@ void tst_Gallery::filterShortensTheList()
     QVERIFY(filter->text().isEmpty());
     QCOMPARE(changed.count(), 2);
     QCOMPARE(changed.last().first().toInt(), 1);
+
+    // A component finds its page, whatever the title.
+    list.setCurrent(0);
+    QTest::keyClicks(filter, QStringLiteral("core"));
+    QCOMPARE(model->rowCount(), 1);
+    QCOMPARE(list.current(), 1);
+}
+
+void tst_Gallery::newEntriesKeepTheCurrentPage()
+{
+    PageList list;
+    list.setEntries({{QStringLiteral("Apple"), {}}, {QStringLiteral("Pear"), {}}});
+    list.setCurrent(1);
+    const QSignalSpy changed(&list, &PageList::currentChanged);
+    list.setEntries({{QStringLiteral("Apfel"), {}}, {QStringLiteral("Birne"), {}}});
+    QCOMPARE(list.current(), 1);
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(list.findChild<QListView*>()->currentIndex().data().toString(), QStringLiteral("Birne"));
 }
 
 void tst_Gallery::arrowKeysInTheFilterMoveThroughTheList()
 {
     PageList list;
-    list.setTitles({QStringLiteral("Apple"), QStringLiteral("Pear")});
+    list.setEntries({{QStringLiteral("Apple"), {}}, {QStringLiteral("Pear"), {}}});
     list.setCurrent(0);
     auto* filter = list.findChild<QLineEdit*>();
     QTest::keyClick(filter, Qt::Key_Down);

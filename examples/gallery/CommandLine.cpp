@@ -38,12 +38,11 @@ CommandLine::CommandLine()
              QStringLiteral("The page to start with, or the only one to render: %1.")
                  .arg(pageSlugs().join(QStringLiteral(", "))),
              QStringLiteral("name"))
-    , m_palette(QStringLiteral("palette"), QStringLiteral("The colours: light (default) or dark."),
-                QStringLiteral("palette"), QStringLiteral("light"))
+    , m_palette(QStringLiteral("palette"), QStringLiteral("The colours: light or dark."), QStringLiteral("palette"))
     , m_rightToLeft(QStringLiteral("rtl"), QStringLiteral("Lays everything out from right to left."))
     , m_language(QStringLiteral("language"),
                  QStringLiteral("The language of the texts: %1.").arg(languageCodes().join(QStringLiteral(", "))),
-                 QStringLiteral("code"), QStringLiteral("en"))
+                 QStringLiteral("code"))
 {
     m_parser.setApplicationDescription(
         QStringLiteral("Shows the components of KQtUi: try them, change their properties, watch their signals."));
@@ -67,7 +66,8 @@ std::optional<Options> CommandLine::read(const QStringList& arguments)
     Options options;
     options.help = m_parser.isSet(m_help);
     options.version = m_parser.isSet(m_version);
-    options.rightToLeft = m_parser.isSet(m_rightToLeft);
+    if (m_parser.isSet(m_rightToLeft))
+        options.rightToLeft = true;
     options.screenshotFolder = m_parser.value(m_screenshots);
     if (m_parser.isSet(m_screenshots) && options.screenshotFolder.isEmpty())
         return fail(QStringLiteral("The folder for the screenshots is empty."));
@@ -76,14 +76,18 @@ std::optional<Options> CommandLine::read(const QStringList& arguments)
 
 std::optional<Options> CommandLine::readPresentation(Options options)
 {
-    const QString scheme = m_parser.value(m_palette);
-    if (scheme != QLatin1String("light") && scheme != QLatin1String("dark"))
-        return fail(QStringLiteral("Unknown palette '%1'.").arg(scheme));
-    options.scheme = scheme == QLatin1String("dark") ? Scheme::Dark : Scheme::Light;
-
-    options.language = m_parser.value(m_language);
-    if (!languageCodes().contains(options.language))
-        return fail(QStringLiteral("Unknown language '%1'.").arg(options.language));
+    if (m_parser.isSet(m_palette)) {
+        const QString scheme = m_parser.value(m_palette);
+        if (scheme != QLatin1String("light") && scheme != QLatin1String("dark"))
+            return fail(QStringLiteral("Unknown palette '%1'.").arg(scheme));
+        options.scheme = scheme == QLatin1String("dark") ? Scheme::Dark : Scheme::Light;
+    }
+    if (m_parser.isSet(m_language)) {
+        const QString language = m_parser.value(m_language);
+        if (!languageCodes().contains(language))
+            return fail(QStringLiteral("Unknown language '%1'.").arg(language));
+        options.language = language;
+    }
     return readPage(options);
 }
 

@@ -17,9 +17,10 @@ struct Options
     bool version = false;
     QString screenshotFolder; ///< empty: open the window
     QString page;             ///< slug of the page to show or to render; empty: the first one, or all
-    Scheme scheme = Scheme::Light;
-    bool rightToLeft = false;
-    QString language; ///< one of the gallery's languages
+    // What the command line leaves open is as it was at the last start.
+    std::optional<Scheme> scheme;
+    std::optional<bool> rightToLeft;
+    std::optional<QString> language; ///< one of the gallery's languages
 };
 
 /// The gallery's command line.

@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QDataStream>
 #include <QGuiApplication>
 #include <QMenuBar>
 #include <QScrollArea>
@@ -110,12 +111,12 @@ void MainWindow::createCentralWidget()
     m_stack = new QStackedWidget;
     connect(m_list, &PageList::currentChanged, this, &MainWindow::showPageAt);
 
-    auto* splitter = new QSplitter;
-    splitter->setChildrenCollapsible(false);
-    splitter->addWidget(m_list);
-    splitter->addWidget(m_stack);
-    splitter->setStretchFactor(1, 1);
-    setCentralWidget(splitter);
+    m_splitter = new QSplitter;
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->addWidget(m_list);
+    m_splitter->addWidget(m_stack);
+    m_splitter->setStretchFactor(1, 1);
+    setCentralWidget(m_splitter);
 }
 
 void MainWindow::setTexts()
@@ -130,10 +131,10 @@ void MainWindow::setTexts()
     m_languageMenu->setTitle(tr("&Language"));
     m_languageButton->setText(tr("Language: %1").arg(m_languages->checkedAction()->text()));
 
-    QStringList titles;
+    QVector<PageList::Entry> entries;
     for (const PageRegistration& page : registeredPages())
-        titles << page.translatedTitle();
-    m_list->setTitles(titles);
+        entries << PageList::Entry{page.translatedTitle(), page.source().components()};
+    m_list->setEntries(entries);
 }
 
 void MainWindow::setScheme(Scheme scheme)
@@ -189,6 +190,39 @@ void MainWindow::showPageAt(int position)
         built = scroller;
     }
     m_stack->setCurrentWidget(built);
+}
+
+QString MainWindow::currentPage() const
+{
+    return registeredPages().at(static_cast<std::size_t>(m_list->current())).slug();
+}
+
+Scheme MainWindow::scheme() const
+{
+    return m_dark->isChecked() ? Scheme::Dark : Scheme::Light;
+}
+
+QString MainWindow::language() const
+{
+    return m_language.code();
+}
+
+QByteArray MainWindow::arrangement() const
+{
+    QByteArray result;
+    QDataStream stream(&result, QIODevice::WriteOnly);
+    stream << saveGeometry() << m_splitter->saveState();
+    return result;
+}
+
+void MainWindow::restoreArrangement(const QByteArray& arrangement)
+{
+    QDataStream stream(arrangement);
+    QByteArray geometry;
+    QByteArray division;
+    stream >> geometry >> division;
+    restoreGeometry(geometry);
+    m_splitter->restoreState(division);
 }
 
 PageFrame* MainWindow::currentFrame() const

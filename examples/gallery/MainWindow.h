@@ -10,6 +10,7 @@ QT_BEGIN_NAMESPACE
 class QAction;
 class QActionGroup;
 class QMenu;
+class QSplitter;
 class QStackedWidget;
 class QToolButton;
 QT_END_NAMESPACE
@@ -33,6 +34,16 @@ public:
 
     /// The page on view.
     PageFrame* currentFrame() const;
+    /// Its PageRegistration::slug().
+    QString currentPage() const;
+
+    Scheme scheme() const;
+    QString language() const;
+
+    /// Size, place and division of the window, for restoreArrangement().
+    QByteArray arrangement() const;
+    /// @p arrangement: anything but what arrangement() returned changes nothing.
+    void restoreArrangement(const QByteArray& arrangement);
 
 public Q_SLOTS:
     void setScheme(Gallery::Scheme scheme);
@@ -62,6 +73,7 @@ private:
     QMenu* m_viewMenu;
     QMenu* m_languageMenu;
     QToolButton* m_languageButton;
+    QSplitter* m_splitter;
     PageList* m_list;
     QStackedWidget* m_stack;
     std::vector<QWidget*> m_built; ///< by position in the list; null: not built yet

@@ -1,18 +1,35 @@
 #include "Page.h"
 
+#include "CodeView.h"
 #include "SignalLog.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include <utility>
 
 namespace Gallery {
+
+namespace {
+
+QWidget* tab(QWidget* content, QPushButton* button)
+{
+    auto* widget = new QWidget;
+    auto* layout = new QHBoxLayout(widget);
+    layout->addWidget(content, 1);
+    layout->addWidget(button, 0, Qt::AlignTop);
+    return widget;
+}
+
+} // namespace
 
 Page::Page(const QString& introduction, QWidget* parent)
     : QWidget(parent)
@@ -20,6 +37,8 @@ Page::Page(const QString& introduction, QWidget* parent)
     , m_stage(new QVBoxLayout)
     , m_controls(new QFormLayout)
     , m_log(new SignalLog)
+    , m_code(new CodeView)
+    , m_tabs(new QTabWidget)
 {
     auto* text = new QLabel(introduction);
     text->setWordWrap(true);
@@ -27,7 +46,10 @@ Page::Page(const QString& introduction, QWidget* parent)
     auto* splitter = new QSplitter(Qt::Vertical);
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(createUpperHalf());
-    splitter->addWidget(createLogBox());
+    m_tabs->addTab(createLogTab(), tr("Signals"));
+    m_tabs->addTab(createCodeTab(), tr("Code"));
+    m_tabs->setTabVisible(m_tabs->indexOf(m_code->parentWidget()), false);
+    splitter->addWidget(m_tabs);
     splitter->setStretchFactor(0, 1);
 
     auto* layout = new QVBoxLayout(this);
@@ -56,7 +78,7 @@ QWidget* Page::createUpperHalf()
     return half;
 }
 
-QWidget* Page::createLogBox()
+QWidget* Page::createLogTab()
 {
     constexpr int fewestLines = 5;
     m_log->setMinimumHeight(m_log->fontMetrics().lineSpacing() * fewestLines);
@@ -64,11 +86,21 @@ QWidget* Page::createLogBox()
     auto* clear = new QPushButton(tr("Clear"));
     connect(clear, &QPushButton::clicked, m_log, &SignalLog::clear);
 
-    auto* box = new QGroupBox(tr("Signals"));
-    auto* layout = new QHBoxLayout(box);
-    layout->addWidget(m_log, 1);
-    layout->addWidget(clear, 0, Qt::AlignTop);
-    return box;
+    return tab(m_log, clear);
+}
+
+QWidget* Page::createCodeTab()
+{
+    auto* copy = new QPushButton(tr("Copy"));
+    connect(copy, &QPushButton::clicked, this,
+            [this] { QGuiApplication::clipboard()->setText(m_code->toPlainText() + QLatin1Char('\n')); });
+    return tab(m_code, copy);
+}
+
+void Page::setCode(const QString& code)
+{
+    m_code->setPlainText(code);
+    m_tabs->setTabVisible(m_tabs->indexOf(m_code->parentWidget()), !code.isEmpty());
 }
 
 std::vector<Page::Popup> Page::popups()

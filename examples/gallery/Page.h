@@ -8,15 +8,17 @@
 QT_BEGIN_NAMESPACE
 class QFormLayout;
 class QFrame;
+class QTabWidget;
 class QVBoxLayout;
 QT_END_NAMESPACE
 
 namespace Gallery {
 
+class CodeView;
 class SignalLog;
 
-/// One page of the gallery: a stage with live components, controls for their properties beside it, a log of their
-/// signals below.
+/// One page of the gallery: a stage with live components, controls for their properties beside it, and below a log of
+/// their signals and, on a tab of its own, the code that makes them.
 ///
 /// A page is built in its constructor: components into stage(), controls into controls(), and connections that call
 /// log(). The gallery builds every page anew when the language changes, so texts are simply tr() where they are set.
@@ -38,6 +40,9 @@ public:
     /// What the page can open; none by default. The gallery closes what it opened.
     virtual std::vector<Popup> popups();
 
+    /// The lines that make what the page shows; without any there is no tab for them.
+    void setCode(const QString& code);
+
     /// What holds the stage, for those who look at the page from outside.
     QFrame* stageFrame() const { return m_stageFrame; }
 
@@ -53,12 +58,15 @@ protected:
 
 private:
     QWidget* createUpperHalf();
-    QWidget* createLogBox();
+    QWidget* createLogTab();
+    QWidget* createCodeTab();
 
     QFrame* m_stageFrame;
     QVBoxLayout* m_stage;
     QFormLayout* m_controls;
     SignalLog* m_log;
+    CodeView* m_code;
+    QTabWidget* m_tabs;
 };
 
 } // namespace Gallery

@@ -12,6 +12,8 @@ PageFrame::PageFrame(const PageRegistration& registration, QWidget* parent)
     : QWidget(parent)
     , m_page(registration.create(this))
 {
+    m_page->setCode(registration.source().code());
+
     auto* title = new QLabel(registration.translatedTitle());
     title->setObjectName(QStringLiteral("title"));
     constexpr qreal titleScale = 1.6;

@@ -5,19 +5,27 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QSortFilterProxyModel>
-#include <QStringListModel>
+#include <QStandardItemModel>
 #include <QVBoxLayout>
 
 namespace Gallery {
 
+namespace {
+
+// The texts that the filter looks at.
+constexpr int SearchRole = Qt::UserRole;
+
+} // namespace
+
 PageList::PageList(QWidget* parent)
     : QWidget(parent)
-    , m_titles(new QStringListModel(this))
+    , m_entries(new QStandardItemModel(this))
     , m_shown(new QSortFilterProxyModel(this))
     , m_filter(new QLineEdit)
     , m_view(new QListView)
 {
-    m_shown->setSourceModel(m_titles);
+    m_shown->setSourceModel(m_entries);
+    m_shown->setFilterRole(SearchRole);
     m_shown->setFilterCaseSensitivity(Qt::CaseInsensitive);
 
     m_filter->setObjectName(QStringLiteral("filter"));
@@ -43,14 +51,20 @@ PageList::PageList(QWidget* parent)
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this, &PageList::reportCurrent);
 }
 
-void PageList::setTitles(const QStringList& titles)
+void PageList::setEntries(const QVector<Entry>& entries)
 {
-    m_filter->setPlaceholderText(tr("Filter"));
-    m_filter->setAccessibleName(tr("Filter"));
+    m_filter->setPlaceholderText(tr("Title or component"));
+    m_filter->setAccessibleName(tr("Title or component"));
     m_view->setAccessibleName(tr("Pages"));
     m_filter->clear();
-    m_titles->setStringList(titles);
-    m_view->setCurrentIndex(m_shown->mapFromSource(m_titles->index(m_current)));
+    m_entries->clear();
+    for (const Entry& entry : entries) {
+        auto* item = new QStandardItem(entry.title);
+        item->setData(QStringList(entry.components).join(QLatin1Char('\n')), Qt::ToolTipRole);
+        item->setData(entry.title + QLatin1Char('\n') + entry.components.join(QLatin1Char('\n')), SearchRole);
+        m_entries->appendRow(item);
+    }
+    m_view->setCurrentIndex(m_shown->mapFromSource(m_entries->index(m_current, 0)));
 
     // As wide as the longest title, without a break.
     const int frame = m_view->width() - m_view->viewport()->width();
@@ -65,7 +79,7 @@ int PageList::current() const
 
 void PageList::setCurrent(int position)
 {
-    const QModelIndex title = m_titles->index(position);
+    const QModelIndex title = m_entries->index(position, 0);
     if (!m_shown->mapFromSource(title).isValid())
         m_filter->clear();
     m_view->setCurrentIndex(m_shown->mapFromSource(title));
@@ -95,7 +109,7 @@ bool PageList::eventFilter(QObject* watched, QEvent* event)
 
 void PageList::keepSomethingCurrent()
 {
-    const QModelIndex same = m_shown->mapFromSource(m_titles->index(m_current));
+    const QModelIndex same = m_shown->mapFromSource(m_entries->index(m_current, 0));
     m_view->setCurrentIndex(same.isValid() ? same : m_shown->index(0, 0));
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QStringList>
+#include <QVector>
 #include <QWidget>
 
 QT_BEGIN_NAMESPACE
@@ -7,12 +9,12 @@ class QLineEdit;
 class QListView;
 class QModelIndex;
 class QSortFilterProxyModel;
-class QStringListModel;
+class QStandardItemModel;
 QT_END_NAMESPACE
 
 namespace Gallery {
 
-/// The titles of the pages below a field that filters them.
+/// The titles of the pages below a field that finds them by title or by the name of a component.
 ///
 /// The arrow keys move through the list also from the field.
 class PageList : public QWidget
@@ -22,10 +24,16 @@ class PageList : public QWidget
 public:
     explicit PageList(QWidget* parent = nullptr);
 
-    /// Replaces the titles; keeps the current position without a signal.
-    void setTitles(const QStringList& titles);
+    struct Entry
+    {
+        QString title;
+        QStringList components; ///< names that find the page as its title does
+    };
 
-    /// The position of the current page among all titles, -1 for none.
+    /// Replaces the entries; keeps the current position without a signal.
+    void setEntries(const QVector<Entry>& entries);
+
+    /// The position of the current page among all entries, -1 for none.
     int current() const;
     /// Clears the filter where it hides @p position.
     void setCurrent(int position);
@@ -41,7 +49,7 @@ private:
     void keepSomethingCurrent();
     void reportCurrent(const QModelIndex& index);
 
-    QStringListModel* m_titles;
+    QStandardItemModel* m_entries;
     QSortFilterProxyModel* m_shown;
     QLineEdit* m_filter;
     QListView* m_view;

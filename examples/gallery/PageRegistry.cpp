@@ -1,6 +1,7 @@
 #include "PageRegistry.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -19,10 +20,12 @@ std::vector<PageRegistration>& registry()
 
 } // namespace
 
-PageRegistration::PageRegistration(int position, const char* title, std::function<Page*(QWidget*)> create)
+PageRegistration::PageRegistration(int position, const char* title, std::function<Page*(QWidget*)> create,
+                                   const char* file)
     : position(position)
     , title(title)
     , create(std::move(create))
+    , file(file)
 {
     registry().push_back(*this);
 }
@@ -35,6 +38,11 @@ QString PageRegistration::translatedTitle() const
 QString PageRegistration::slug() const
 {
     return Gallery::slug(QString::fromUtf8(title));
+}
+
+PageSource PageRegistration::source() const
+{
+    return PageSource::ofFile(QFileInfo(QString::fromUtf8(file)).fileName());
 }
 
 std::vector<PageRegistration> registeredPages()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PageSource.h"
+
 #include <QString>
 
 #include <functional>
@@ -22,15 +24,21 @@ struct PageRegistration
 {
     /// @param position where the page stands in the list, ascending
     /// @param title    untranslated, context "Gallery"; a string literal
-    PageRegistration(int position, const char* title, std::function<Page*(QWidget* parent)> create);
+    /// @param file     the file that the registration stands in, by itself
+    PageRegistration(int position, const char* title, std::function<Page*(QWidget* parent)> create,
+                     const char* file = __builtin_FILE());
 
     QString translatedTitle() const;
     /// The title as part of a file name and on the command line, in no language but the sources'.
     QString slug() const;
 
+    /// The code that the page shows and the components it is about.
+    PageSource source() const;
+
     int position;
     const char* title;
     std::function<Page*(QWidget* parent)> create;
+    const char* file;
 };
 
 /// Every registered page in the order of the list.

@@ -2,6 +2,7 @@
 #include "CommandLine.h"
 #include "LanguageSwitch.h"
 #include "MainWindow.h"
+#include "Preferences.h"
 #include "Screenshots.h"
 #include "Tour.h"
 
@@ -49,21 +50,25 @@ int refuse(const CommandLine& commandLine)
 
 void present(MainWindow& window, const Options& options)
 {
-    window.setScheme(options.scheme);
-    window.setLanguage(options.language);
+    window.setScheme(options.scheme.value_or(Scheme::Light));
+    window.setLanguage(options.language.value_or(languages().constFirst().code));
     if (options.rightToLeft)
-        window.setRightToLeft(true);
+        window.setRightToLeft(*options.rightToLeft);
     window.showPage(options.page);
 }
 
 int showWindow(const Options& options, LanguageSwitch& language)
 {
-    MainWindow window(language);
-    present(window, options);
     QSettings settings(QStringLiteral("KQtUi"), QCoreApplication::applicationName());
+    Preferences preferences(settings);
+    MainWindow window(language);
+    present(window, preferences.completed(options));
+    preferences.restoreArrangement(window);
     const Tour tour(window, settings);
     window.show();
-    return QApplication::exec();
+    const int exitCode = QApplication::exec();
+    preferences.keep(window);
+    return exitCode;
 }
 
 int renderPages(const Options& options, LanguageSwitch& language, const QString& folder)

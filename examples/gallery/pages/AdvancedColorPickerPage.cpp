@@ -18,6 +18,8 @@
 #include <utility>
 #include <vector>
 
+//! [shows] AdvancedColorPickerPopup
+
 namespace Gallery {
 
 namespace {
@@ -43,7 +45,9 @@ public:
                           [this](const QColor& color) { m_note->setInk(color); });
         m_marker = addPicker(tr("Marker"), QStringLiteral("marker"), translucentYellow(),
                              [this](const QColor& color) { m_note->setMarker(color); });
+        //! [code]
         m_paper->setOpacityAdjustmentAvailable(false);
+        //! [code]
         m_ink->setOpacityAdjustmentAvailable(false);
         addDragHint();
         addControls();
@@ -70,10 +74,12 @@ private:
                                    std::function<void(const QColor&)> apply)
     {
         constexpr QSize size(64, 30);
+        //! [code]
         auto* picker = new AdvancedColorPicker;
         picker->setObjectName(name);
         picker->setAccessibleName(label);
         picker->setFixedSize(size);
+        //! [code]
         auto* swatch = new ColorSwatch;
 
         const int row = m_rows->rowCount();
@@ -91,8 +97,10 @@ private:
         });
         m_setters.back()(color);
         logSignals(picker, name);
+        //! [code]
         connect(picker, &AdvancedColorPicker::changedColor, this, show);
         connect(picker, &AdvancedColorPicker::doneSelectionWithColor, this, show);
+        //! [code]
         return picker;
     }
 

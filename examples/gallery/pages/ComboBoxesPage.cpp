@@ -20,6 +20,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+//! [shows] SeparatorStyle
+
 namespace Gallery {
 
 namespace {
@@ -61,10 +63,12 @@ public:
 private:
     QWidget* createNarrowGroup()
     {
+        //! [code]
         m_narrow = new AdvancedComboBox;
         m_narrow->addItems(longItems());
         m_narrow->setCurrentIndex(1);
         m_narrow->setFixedWidth(narrow);
+        //! [code]
         m_narrow->setAccessibleName(tr("Narrow box"));
         connect(m_narrow, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
                 [this](int index) { log(QStringLiteral("narrow.currentIndexChanged(%1)").arg(index)); });
@@ -82,8 +86,10 @@ private:
         auto* form = new QWidget;
         auto* rows = new QFormLayout(form);
         for (int i = 1; i <= 8; ++i) {
+            //! [code]
             auto* box = new NoWheelComboBox;
             box->addItems(longItems());
+            //! [code]
             box->setFixedWidth(narrow);
             rows->addRow(tr("Row %1").arg(i), box);
         }
@@ -101,7 +107,9 @@ private:
     {
         m_separators = new AdvancedComboBox;
         m_separators->addItems({tr("Undo"), tr("Cut"), tr("Copy"), tr("Paste")});
+        //! [code]
         m_separators->insertSeparator(1);
+        //! [code]
         m_separators->setFixedWidth(narrow);
         m_separators->setAccessibleName(tr("Box with separators"));
         styleSeparators(true);
@@ -110,19 +118,23 @@ private:
 
     QWidget* createPresetGroup()
     {
+        //! [code]
         m_presets = new PresetComboBox;
         m_presets->addItem(tr("A preset with a rather long name"));
+        //! [code]
         m_presets->setFixedWidth(narrow);
         m_presets->setAccessibleName(tr("Presets"));
         m_panel = new QListWidget(this);
         m_panel->setWindowFlags(Qt::Popup);
         m_panel->addItems({tr("Calm"), tr("Bright"), tr("Night")});
+        //! [code]
         connect(m_presets, &PresetComboBox::ShowPopupActivated, this, [this] {
             log(QStringLiteral("presets.ShowPopupActivated()"));
             m_panel->resize(m_presets->width(), 90);
             m_panel->move(m_presets->mapToGlobal(m_presets->rect().bottomLeft()));
             m_panel->show();
         });
+        //! [code]
         connect(m_panel, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) {
             m_presets->setItemText(0, item->text());
             m_panel->hide();
@@ -154,12 +166,14 @@ private:
 
     void styleSeparators(bool on)
     {
+        //! [code]
         m_separators->setStyleSheet(
             on ? QStringLiteral("Kestrel--Gui--SeparatorStyle { qproperty-height: 9; qproperty-color: #1464f6;"
                                 " qproperty-lineWidth: 2; qproperty-marginLeft: 6; qproperty-marginRight: 6; }")
                : QString());
         // The look is read from the style sheet when the delegate is made; the box deletes the one before.
         m_separators->setItemDelegate(new SeparatorDelegate(m_separators));
+        //! [code]
     }
 
     static QStringList longItems()

@@ -33,6 +33,7 @@ public:
     {
     }
 
+    //! [code]
     bool CanDropUrl(const std::string& url) override
     {
         const QString text = QString::fromStdString(url);
@@ -43,6 +44,7 @@ public:
                      .arg(m_name, text, vote ? QStringLiteral("true") : QStringLiteral("false")));
         return vote;
     }
+    //! [code]
 
     void DropUrl(const std::string& path) override
     {
@@ -99,8 +101,10 @@ private:
         auto* zone = new QLabel(tr("Drop pictures or texts here"));
         zone->setAlignment(Qt::AlignCenter);
         zone->setFrameShape(QFrame::StyledPanel);
+        //! [code]
         zone->setAcceptDrops(true);
         zone->installEventFilter(m_filter);
+        //! [code]
         return zone;
     }
 
@@ -128,19 +132,23 @@ private:
         layout->addWidget(text);
         layout->addWidget(button);
 
+        //! [code]
         auto* drag = new PanelDrag(panel, panel);
         panel->installEventFilter(drag);
         button->installEventFilter(drag);
+        //! [code]
         connect(button, &QPushButton::clicked, this, [this] { log(QStringLiteral("clicked()")); });
         return panel;
     }
 
     void install(IDragDropEventFilterObserver* observer, bool on)
     {
+        //! [code]
         if (on)
             m_filter->InstallDragDropObserver(observer);
         else
             m_filter->RemoveDragDropObserver(observer);
+        //! [code]
     }
 
     DragDropEventFilter* m_filter;

@@ -21,6 +21,8 @@
 #include <QVariant>
 #include <QVBoxLayout>
 
+//! [shows] AlwaysOnTop
+
 namespace Gallery {
 
 namespace {
@@ -101,9 +103,11 @@ private:
 
     void watchMouse()
     {
+        //! [code]
         auto* mouse = new WidgetMouseHandler(m_pad);
         watch(mouse, QStringLiteral("MouseButtonPressed"), &WidgetMouseHandler::MouseButtonPressed);
         watch(mouse, QStringLiteral("MouseMoved"), &WidgetMouseHandler::MouseMoved);
+        //! [code]
         watch(mouse, QStringLiteral("MouseButtonReleased"), &WidgetMouseHandler::MouseButtonReleased);
         watch(mouse, QStringLiteral("MouseHoverEntered"), &WidgetMouseHandler::MouseHoverEntered);
         watch(mouse, QStringLiteral("MouseHoverMoved"), &WidgetMouseHandler::MouseHoverMoved);
@@ -121,13 +125,17 @@ private:
 
     void watchSize()
     {
+        //! [code]
         auto* resize = new WidgetResizeHandler(m_pad);
+        //! [code]
         const QString name = QStringLiteral("Resized");
         SignalLamp* lamp = addLamp(name);
+        //! [code]
         connect(resize, &WidgetResizeHandler::Resized, this, [this, lamp, name](QSize oldSize, QSize newSize) {
             lamp->flash(QStringLiteral("%1 → %2").arg(text(oldSize), text(newSize)));
             logCounted(QStringLiteral("%1(%2, %3)").arg(name, text(oldSize), text(newSize)));
         });
+        //! [code]
     }
 
     void addDragAndDrop()
@@ -141,12 +149,14 @@ private:
         connect(target, &DropPad::dropped, this,
                 [this](const QString& dropped) { log(QStringLiteral("dropEvent(\"%1\")").arg(dropped)); });
 
+        //! [code]
         auto* guard = new DisableDragAndDropEventFilter(target);
         addSwitch(tr("Drop field is guarded"), false, [target, guard](bool on) {
             target->removeEventFilter(guard);
             if (on)
                 target->installEventFilter(guard);
         });
+        //! [code]
     }
 
     void addWindowSwitch()
@@ -154,7 +164,9 @@ private:
         m_onTop = new QCheckBox(tr("Window stays on top"));
         controls()->addRow(m_onTop);
         connect(m_onTop, &QCheckBox::toggled, this, [this](bool on) {
+            //! [code]
             WindowOnTop(*window()).set(on);
+            //! [code]
             log(QStringLiteral("IsAlwaysOnTop() == %1")
                     .arg(QVariant(WindowOnTop(*window()).IsAlwaysOnTop()).toString()));
         });

@@ -60,14 +60,17 @@ public:
         QFont first = font;
         first.setItalic(true);
         first.setBold(true);
+        //! [code]
         m_style->setFont(first);
         m_align->setAlignment(Qt::AlignCenter);
+        //! [code]
         m_sample->setAlignment(Qt::AlignCenter);
     }
 
 private:
     static QString styleSheetByTag()
     {
+        //! [code]
         const QString rule = QStringLiteral("QToolButton[styleTag=\"%1\"] { qproperty-icon: url(:/icons/%2.png); }");
         const QString frame =
             QStringLiteral("QToolButton[styleTag] { border: 1px solid palette(mid); border-radius: 3px; padding: 3px;"
@@ -81,6 +84,7 @@ private:
                rule.arg(QStringLiteral("AlignRight"), QStringLiteral("align-right")) +
                rule.arg(QStringLiteral("AlignJustify"), QStringLiteral("align-justify")) +
                rule.arg(QStringLiteral("AlignCenter"), QStringLiteral("align-center"));
+        //! [code]
     }
 
     static QString name(Qt::Alignment alignment)
@@ -90,6 +94,7 @@ private:
 
     void connectSignals()
     {
+        //! [code]
         connect(m_style, &FontStylePicker::styleChanged, this, [this] {
             log(QStringLiteral("styleChanged()"));
             m_sample->setFont(m_style->apply(m_sample->font()));
@@ -98,6 +103,7 @@ private:
             log(QStringLiteral("alignmentChanged(%1)").arg(name(alignment)));
             m_sample->setAlignment(alignment | Qt::AlignVCenter | Qt::AlignAbsolute);
         });
+        //! [code]
     }
 
     void addControls()

@@ -81,9 +81,11 @@ private:
         FrameStage::Listener listener;
         listener.stateChanged = [this] { log(QStringLiteral("frame.InteractionStateChanged()")); };
         listener.frameChanged = [this](const QRectF& frame) { showFrame(frame); };
+        //! [code]
         m_frame = new SelectionFrameItem(m_stage->createHandler(listener));
         m_stage->addFrame(m_frame);
         m_frame->Initialize(m_stage->setWorkMargin(initialMargin), QRectF(150, 90, 220, 120));
+        //! [code]
     }
 
     void showFrame(const QRectF& frame)
@@ -100,9 +102,11 @@ private:
     void addControls()
     {
         addSwitch(tr("Edit mode"), true, [this](bool on) {
+            //! [code]
             m_stage->frames()->EnableEditMode(on);
             if (!on)
                 m_stage->unsetCursor();
+            //! [code]
         });
         addSwitch(tr("Keep the ratio"), false, [this](bool on) { m_frame->SetKeepAspectRatio(on); });
 
@@ -120,9 +124,11 @@ private:
         veil->setAccessibleName(tr("Veil"));
         veil->setOpacityAdjustmentAvailable(false);
         veil->setColor(Qt::black);
+        //! [code]
         const auto apply = [this](const QColor& color) { m_stage->frames()->SetBGColor(color); };
         connect(veil, &AdvancedColorPicker::changedColor, this, apply);
         connect(veil, &AdvancedColorPicker::doneSelectionWithColor, this, apply);
+        //! [code]
         controls()->addRow(tr("Veil"), veil);
     }
 

@@ -75,10 +75,12 @@ private:
 
     QWidget* createPressLabel()
     {
+        //! [code]
         m_press = new ClickableLabel;
         m_press->setFrameShape(QFrame::StyledPanel);
         m_press->setText(tr("Press here, with any button"));
         connect(m_press, &ClickableLabel::clicked, this, [this] { log(QStringLiteral("clickableLabel.clicked()")); });
+        //! [code]
         connect(m_press, &ClickableLabel::ClickableChanged, this, [this](bool clickable) {
             log(QStringLiteral("clickableLabel.ClickableChanged(%1)").arg(QVariant(clickable).toString()));
         });
@@ -87,10 +89,12 @@ private:
 
     QWidget* createElidingLabel(const QString& text)
     {
+        //! [code]
         auto* label = new ExtendedLabel;
         label->setFrameShape(QFrame::StyledPanel);
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // narrower than its text
         label->SetOriginalText(text);
+        //! [code]
         connect(label, &ExtendedLabel::clicked, this, [this] { log(QStringLiteral("extendedLabel.clicked()")); });
         m_eliding.push_back(label);
         return label;
@@ -98,10 +102,12 @@ private:
 
     QWidget* createLineEdit()
     {
+        //! [code]
         auto* edit = new ClippingTextLineEdit;
         edit->setMinimumWidth(1);
         edit->setAccessibleName(tr("Clipped text"));
         edit->SetOriginalText(tr("A text that is shown whole while you edit it, and elided while you do not"));
+        //! [code]
         connect(edit, &ClippingTextLineEdit::OriginalTextChanged, this,
                 [this](const QString& text) { log(QStringLiteral("lineEdit.OriginalTextChanged(\"%1\")").arg(text)); });
         return edit;
@@ -109,8 +115,10 @@ private:
 
     QWidget* createNotes()
     {
+        //! [code]
         m_notes = new TextEditWithPlaceholder;
         m_notes->setMinimumSize({1, 1});
+        //! [code]
         m_notes->setTabChangesFocus(true);
         m_notes->setAccessibleName(tr("Notes"));
         return m_notes;
@@ -145,8 +153,10 @@ private:
         auto* hint = new QLineEdit(tr("What do you think of it?"));
         hint->setCursorPosition(0);
         controls()->addRow(tr("Placeholder"), hint);
+        //! [code]
         connect(hint, &QLineEdit::textChanged, m_notes, &TextEditWithPlaceholder::setPlaceholderText);
         m_notes->setPlaceholderText(hint->text());
+        //! [code]
 
         auto* number = new AdvancedSpinBox;
         auto* length = new QSpinBox;

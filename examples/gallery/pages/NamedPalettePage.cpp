@@ -30,10 +30,12 @@ public:
         , m_swatch(new ColorSwatch)
     {
         constexpr QSize size(72, 32);
+        //! [code]
         m_picker->setObjectName(QStringLiteral("picker")); // the picker styles itself by its name
         m_picker->setAccessibleName(tr("Colour"));
         m_picker->setFixedSize(size);
         m_picker->setColor(QColor(0x388e8e));
+        //! [code]
 
         auto* row = new QHBoxLayout;
         row->addWidget(m_picker);
@@ -48,8 +50,10 @@ public:
         stage()->addStretch(2);
 
         // The border alone: the background is the picker's own.
+        //! [code]
         setStyleSheet(QStringLiteral("#picker { border: 1px solid palette(mid); border-radius: 4px; }"
                                      "#picker[pressed=\"true\"] { border: 3px solid palette(highlight); }"));
+        //! [code]
         showColor(m_picker->color());
         connectSignals();
         addControls();
@@ -66,10 +70,12 @@ public:
 private:
     void connectSignals()
     {
+        //! [code]
         connect(m_picker, &RColorPicker::changedColor, this, [this](const QColor& color) {
             log(QStringLiteral("picker.changedColor(%1)").arg(color.name()));
             showColor(color);
         });
+        //! [code]
         const RColorPickerPopup* popup = &m_picker->GetPickerPopup();
         connect(popup, &RColorPickerPopup::selected, this,
                 [this](const QColor& color) { log(QStringLiteral("popup.selected(%1)").arg(color.name())); });
@@ -80,10 +86,12 @@ private:
     {
         addSwitch(tr("Colorized"), true, [this](bool on) { m_picker->SetColorized(on); });
         addSwitch(tr("Dark popup"), false, [this](bool on) {
+            //! [code]
             RColorPickerPopup& popup = m_picker->GetPickerPopup();
             popup.SetButtonNormalColor(on ? QColor(0x444444) : QColor(Qt::lightGray));
             popup.SetButtonNormalTextColor(on ? Qt::white : Qt::black);
             popup.SetButtonHoverColor(on ? QColor(0x0844a4) : QColor(Qt::yellow));
+            //! [code]
         });
         addSwitch(tr("Enabled"), true, [this](bool on) { m_picker->setEnabled(on); });
         auto* makeDefault = new QPushButton(tr("Make it the default"));

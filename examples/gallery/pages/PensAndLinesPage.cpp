@@ -59,7 +59,9 @@ private:
     QWidget* createPenGroup()
     {
         m_pen->setFixedSize({170, controlHeight});
+        //! [code]
         m_pen->setPen(QPen(QColor(0x1464f6), 3));
+        //! [code]
         auto* sketch = new LineSketch;
         const auto show = [this, sketch] { sketch->setPen(m_pen->pen()); };
         connect(m_pen, &PenPicker::penChanged, this, [this, show] {
@@ -76,6 +78,7 @@ private:
 
     QWidget* createLineGroup()
     {
+        //! [code]
         m_style = new LineStyleComboBox;
         for (const Qt::PenStyle style : {Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine, Qt::DashDotDotLine})
             m_style->addItem(QString(), static_cast<int>(style));
@@ -83,13 +86,16 @@ private:
         for (const int width : {0, 1, 2, 4, 6})
             m_width->addItem(QString(), width);
         m_width->setCurrentIndex(2);
+        //! [code]
         m_style->setAccessibleName(tr("Line style"));
         m_width->setAccessibleName(tr("Line width"));
 
         auto* sketch = new LineSketch;
         const auto show = [this, sketch] {
+            //! [code]
             const int width = m_width->currentData().toInt();
             const auto style = static_cast<Qt::PenStyle>(m_style->currentData().toInt());
+            //! [code]
             sketch->setPen(width == 0 ? QPen(Qt::NoPen) : QPen(sketch->palette().text(), width, style));
         };
         auto* boxes = new QWidget;
@@ -119,8 +125,10 @@ private:
         slider->setRange(0, opaque);
         slider->setAccessibleName(tr("Opacity"));
         auto* swatch = new ColorSwatch;
+        //! [code]
         auto* adapter = new ColorPickerOpacityAdapter(picker, slider, this);
         adapter->setColor(QColor(0xff, 0x83, 0x51, 0x99));
+        //! [code]
         swatch->setColor(adapter->color());
         connect(adapter, &ColorPickerOpacityAdapter::colorChanged, this, [this, swatch](const QColor& color) {
             logCounted(QStringLiteral("adapter.colorChanged(%1, %2)").arg(color.name()).arg(color.alpha()));
@@ -155,6 +163,7 @@ private:
     void addControls()
     {
         addSwitch(tr("Coloured tick"), true, [this](bool on) {
+            //! [code]
             m_slider->setStyleSheet(
                 on ? QStringLiteral("CustomSliderWithZeroTick { qproperty-tickWidth: 2; qproperty-tickHeight: 22;"
                                     " qproperty-topTickEndColor: #e61610; qproperty-centerTickColor: #1464f6;"
@@ -162,6 +171,7 @@ private:
                    : QStringLiteral("CustomSliderWithZeroTick { qproperty-tickWidth: 1; qproperty-tickHeight: 14;"
                                     " qproperty-topTickEndColor: gray; qproperty-centerTickColor: gray;"
                                     " qproperty-bottomTickEndColor: gray; }"));
+            //! [code]
         });
         addSwitch(tr("Enabled"), true, [this](bool on) {
             for (QWidget* widget : {static_cast<QWidget*>(m_pen), static_cast<QWidget*>(m_style),

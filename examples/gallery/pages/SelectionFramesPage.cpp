@@ -25,6 +25,8 @@
 
 #include <functional>
 
+//! [shows] SelectionFrameGraphicsItem ISelectionFrameEventHandler IFrameRenderSource
+
 namespace Gallery {
 
 namespace {
@@ -86,6 +88,7 @@ public:
         m_region = addFrame<SelectionFrameItem>(tr("Region"), QStringLiteral("region"));
         // The region's veil comes first: it would clear what lies below it.
         m_region->setZValue(-1);
+        //! [code]
         m_stage->frames()->EnableEditMode(true);
 
         const QRectF work = m_stage->setWorkMargin(initialMargin);
@@ -95,6 +98,7 @@ public:
         m_text->SetFont(QFont(QStringLiteral("Noto Sans"), fontPoints));
         m_text->Initialize(work, QRectF(40, 145, 120, 36));
         m_region->Initialize(work, QRectF(180, 56, 100, 120));
+        //! [code]
         addControls();
         render();
     }
@@ -122,8 +126,10 @@ private:
             readOut->setText(relativeText(frame));
             m_rendering.start();
         };
+        //! [code]
         auto* item = new Item(m_stage->createHandler(std::move(listener)));
         m_stage->addFrame(item);
+        //! [code]
         return item;
     }
 
@@ -210,7 +216,9 @@ private:
         m_region->Initialize(work, m_region->GetFrameInScene());
     }
 
+    //! [code]
     void render() { m_preview->setImage(m_stage->frames()->RenderToImage()); }
+    //! [code]
 
     FrameStage* m_stage;
     RenderedPreview* m_preview;

@@ -69,8 +69,10 @@ private:
     {
         auto* list = new QListWidget;
         list->addItems({tr("Sunrise"), tr("Noon"), tr("Sunset"), tr("Night")});
+        //! [code]
         m_dock->setTitleBarWidget(m_titleBar);
         m_dock->setWidget(list);
+        //! [code]
 
         auto* window = new QMainWindow;
         window->setWindowFlags(Qt::Widget); // a part of the page
@@ -92,19 +94,25 @@ private:
 
     PreviewImageLabel* createTile(int number)
     {
+        //! [code]
         auto* tile = new PreviewImageLabel;
+        //! [code]
         PaintedPicture picture;
         picture.resize(tileSize);
+        //! [code]
         tile->setPixmap(picture.grab());
         tile->setFixedSize(tileSize);
         tile->setStarIsVisible(number % 2 == 0);
         tile->setPlayIsVisible(true);
+        //! [code]
         QLabel* duration = tile->GetDurationLabel();
         duration->setText(QStringLiteral("%1:%2").arg(number).arg(17 * (number + 1) % 60, 2, 10, QLatin1Char('0')));
         constexpr QRect corner(6, tileSize.height() - 24, 40, 18);
         duration->setGeometry(corner);
+        //! [code]
         connect(tile, &PreviewImageLabel::starClicked, this,
                 [this, number] { log(QStringLiteral("tile %1: starClicked()").arg(number + 1)); });
+        //! [code]
         connect(tile, &PreviewImageLabel::playClicked, this,
                 [this, number] { log(QStringLiteral("tile %1: playClicked()").arg(number + 1)); });
         m_tiles.append(tile);
@@ -113,10 +121,12 @@ private:
 
     void connectTitleBar()
     {
+        //! [code]
         connect(m_titleBar, &StyledDockWidgetTitlebar::Close, this, [this] {
             log(QStringLiteral("Close()"));
             m_dock->close();
         });
+        //! [code]
         connect(m_titleBar, &StyledDockWidgetTitlebar::Detach, this, [this] {
             log(QStringLiteral("Detach()"));
             m_dock->setFloating(!m_dock->isFloating());

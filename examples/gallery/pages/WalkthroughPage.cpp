@@ -18,6 +18,8 @@
 
 #include <algorithm>
 
+//! [shows] WalkthroughHint
+
 namespace Gallery {
 
 namespace {
@@ -67,9 +69,11 @@ public:
         addLists();
         addControls();
         // The first state of a group is where it starts.
+        //! [code]
         m_controller.findOrCreateState(QStringLiteral("demo/stopped"));
         m_controller.findOrCreateState(QStringLiteral("demo/running"));
         m_controller.addHints(new GalleryHint(Context, hints()));
+        //! [code]
         connect(&m_controller, &WalkthroughController::hintsDisabledForever, this,
                 [this] { log(QStringLiteral("hintsDisabledForever()")); });
         connect(&m_controller, &QStateMachine::started, this, [this] { refresh(); });
@@ -83,7 +87,9 @@ private:
     QPushButton* addTarget(const QString& text, const QString& target)
     {
         auto* button = new QPushButton(text);
+        //! [code]
         button->setProperty(GalleryHint::widgetPropertyName(), target);
+        //! [code]
         m_targets->addWidget(button);
         return button;
     }
@@ -126,7 +132,9 @@ private:
             const QVector<HintDescription> descriptions = hints();
             for (const HintDescription& hint : descriptions)
                 m_controller.gotoState(hint.name, QStringLiteral("ready"));
+            //! [code]
             m_controller.gotoState(QStringLiteral("demo"), QStringLiteral("running"));
+            //! [code]
         });
         controls()->addRow(start);
         auto* stop = new QPushButton(tr("Stop the tour"));
@@ -143,7 +151,9 @@ private:
         addSwitch(tr("Left lamp is shown"), true, [this](bool on) { m_left->setVisible(on); });
         addSwitch(tr("Right lamp is shown"), true, [this](bool on) { m_right->setVisible(on); });
         addSwitch(tr("Hints avoid the list of hints"), false,
+                  //! [code]
                   [this](bool on) { m_controller.setAvoidWidget(on ? m_hints : nullptr); });
+                  //! [code]
     }
 
     void watchNewStates()

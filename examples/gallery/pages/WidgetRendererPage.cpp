@@ -104,6 +104,7 @@ private:
             return;
         giveWidgetsBack();
         const QRect area(m_area->mapToGlobal(QPoint(0, 0)), m_area->size());
+        //! [code]
         WidgetRenderer renderer(m_area, nullptr);
         // Widgets are drawn where they lie on the screen, so the picture begins with the screen.
         renderer.ChangeRendererFrame(QRect(QPoint(0, 0), area.bottomRight()));
@@ -112,6 +113,7 @@ private:
             widget->show();
         }
         const QPixmap& picture = renderer.GetMaskImage();
+        //! [code]
         const qreal ratio = picture.devicePixelRatio();
         m_picture->setPixmap(picture.copy(QRect(area.topLeft() * ratio, area.size() * ratio)));
         log(QStringLiteral("WidgetRenderer.GetMaskImage(): %1 x %2").arg(picture.width()).arg(picture.height()));
@@ -120,8 +122,10 @@ private:
     void giveWidgetsBack()
     {
         for (QWidget* widget : m_covered) {
+            //! [code]
             widget->setMask(QRegion());
             widget->setAttribute(Qt::WA_MouseNoMask, false);
+            //! [code]
         }
     }
 
