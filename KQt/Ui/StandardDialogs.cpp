@@ -1,6 +1,7 @@
 #include <KQt/Ui/StandardDialogs.h>
 
 #include <KQt/Ui/DialogOptions.h>
+#include <KQt/Ui/FileDialogParentGuard.h>
 #include <KQt/Ui/Platforms/NativeFileDialog.h>
 
 #include <Basalt/IoPath.h>
@@ -56,17 +57,20 @@ QStringList StandardDialogs::getOpenFileNames(QWidget* parent, QString caption, 
 QString StandardDialogs::getSaveFileName(QWidget* parent, QString caption, QString dir, QString filter,
                                          QString* selectedFilter, QFileDialog::Options options)
 {
+    const FileDialogParentGuard guard(parent);
     return QFileDialog::getSaveFileName(parent, caption, dir, filter, selectedFilter, options);
 }
 
 QString StandardDialogs::getExistingDirectory(QWidget* parent, QString caption, QString dir,
                                               QFileDialog::Options options)
 {
+    const FileDialogParentGuard guard(parent);
     return QFileDialog::getExistingDirectory(parent, caption, dir, options);
 }
 
 QString StandardDialogs::getDVDDirectory(QWidget* parent, QString caption, QString dir, QFileDialog::Options options)
 {
+    const FileDialogParentGuard guard(parent);
     const QString path = QFileDialog::getExistingDirectory(parent, caption, dir, options);
     const ioPath disc = Core::RemoveDirectorySuffixIfRequired(ioPath(path.toStdString()), "VIDEO_TS");
     return QString::fromStdString(disc.ToUtf8());
@@ -104,6 +108,7 @@ QStringList StandardDialogs::GetOpenImplQt(QWidget* parent, const QString& capti
                                            const QString& filter, QString* selectedFilter, OpenMode mode,
                                            QFileDialog::Options options)
 {
+    const FileDialogParentGuard guard(parent);
     if (!includes(mode, OpenMode::Files))
         return {QFileDialog::getExistingDirectory(parent, caption, dir, options)};
     if (!includes(mode, OpenMode::Multiple))

@@ -19,7 +19,8 @@ namespace Kestrel::Gui {
 /// separated by blanks, in parentheses. Where a `selectedFilter` is given, the chosen entry is written to it; it is not
 /// owned and must outlive the call, and null is allowed. Nothing throws.
 ///
-/// A parent is not owned. Null makes the dialog a window of its own.
+/// A parent is not owned. Null makes the dialog a window of its own. A parent that goes while Qt's dialog is open takes
+/// it along: the user has cancelled.
 class KQTUI_EXPORT StandardDialogs
 {
 public:
