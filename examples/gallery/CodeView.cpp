@@ -65,6 +65,13 @@ CodeView::CodeView(QWidget* parent)
     setLayoutDirection(Qt::LeftToRight);
 }
 
+// As low as the log beside it: the stage gets the room.
+QSize CodeView::sizeHint() const
+{
+    constexpr int lines = 6;
+    return {QPlainTextEdit::sizeHint().width(), fontMetrics().lineSpacing() * lines};
+}
+
 void CodeView::changeEvent(QEvent* event)
 {
     QPlainTextEdit::changeEvent(event);

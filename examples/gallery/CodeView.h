@@ -12,6 +12,8 @@ class CodeView : public QPlainTextEdit
 public:
     explicit CodeView(QWidget* parent = nullptr);
 
+    QSize sizeHint() const override;
+
 protected:
     void changeEvent(QEvent* event) override;
 

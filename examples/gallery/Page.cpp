@@ -46,6 +46,7 @@ Page::Page(const QString& introduction, QWidget* parent)
     auto* splitter = new QSplitter(Qt::Vertical);
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(createUpperHalf());
+    m_tabs->setDocumentMode(true);
     m_tabs->addTab(createLogTab(), tr("Signals"));
     m_tabs->addTab(createCodeTab(), tr("Code"));
     m_tabs->setTabVisible(m_tabs->indexOf(m_code->parentWidget()), false);

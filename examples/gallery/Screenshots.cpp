@@ -8,10 +8,13 @@
 #include <QDeadlineTimer>
 #include <QFrame>
 #include <QImage>
+#include <QLayout>
 #include <QPixmap>
 #include <QPointer>
 #include <QTextStream>
 #include <QWindow>
+
+#include <algorithm>
 
 namespace Gallery {
 
@@ -28,6 +31,14 @@ void waitUntilShown(const QPointer<QWidget>& widget)
     while (widget && !exposed() && !deadline.hasExpired())
         QCoreApplication::processEvents(QEventLoop::AllEvents, static_cast<int>(deadline.remainingTime()));
     QCoreApplication::processEvents();
+}
+
+// Comfortable, and where the font is large as high as the wrapped introduction makes it.
+QSize sizeFor(const QWidget& frame)
+{
+    QSize size = comfortableSize.expandedTo(frame.minimumSizeHint());
+    size.setHeight(std::max(size.height(), frame.layout()->minimumHeightForWidth(size.width())));
+    return size;
 }
 
 bool isOfOneColor(const QImage& picture)
@@ -66,7 +77,7 @@ void Screenshots::writePage(const PageRegistration& registration)
 {
     PageFrame frame(registration);
     frame.setWindowTitle(registration.translatedTitle());
-    frame.resize(comfortableSize.expandedTo(frame.minimumSizeHint()));
+    frame.resize(sizeFor(frame));
     frame.show();
     waitUntilShown(&frame);
     writePicture(frame, registration.slug());

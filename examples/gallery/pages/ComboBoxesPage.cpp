@@ -31,8 +31,6 @@ using Kestrel::Gui::NoWheelComboBox;
 using Kestrel::Gui::PresetComboBox;
 using Kestrel::Gui::SeparatorDelegate;
 
-constexpr int narrow = 150;
-
 class ComboBoxesPage : public Page
 {
     Q_DECLARE_TR_FUNCTIONS(Gallery::ComboBoxesPage)
@@ -67,7 +65,7 @@ private:
         m_narrow = new AdvancedComboBox;
         m_narrow->addItems(longItems());
         m_narrow->setCurrentIndex(1);
-        m_narrow->setFixedWidth(narrow);
+        m_narrow->setFixedWidth(narrow());
         //! [code]
         m_narrow->setAccessibleName(tr("Narrow box"));
         connect(m_narrow, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
@@ -90,12 +88,13 @@ private:
             auto* box = new NoWheelComboBox;
             box->addItems(longItems());
             //! [code]
-            box->setFixedWidth(narrow);
+            box->setFixedWidth(narrow());
             rows->addRow(tr("Row %1").arg(i), box);
         }
         auto* area = new QScrollArea;
         area->setWidget(form);
-        area->setFixedHeight(100);
+        constexpr int visibleRows = 3;
+        area->setFixedHeight(visibleRows * form->sizeHint().height() / rows->rowCount());
         // Wide enough for the boxes beside the bar: the form scrolls in one direction.
         area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         area->setMinimumWidth(form->sizeHint().width() + area->verticalScrollBar()->sizeHint().width() +
@@ -110,7 +109,7 @@ private:
         //! [code]
         m_separators->insertSeparator(1);
         //! [code]
-        m_separators->setFixedWidth(narrow);
+        m_separators->setFixedWidth(narrow());
         m_separators->setAccessibleName(tr("Box with separators"));
         styleSeparators(true);
         return group(tr("Separators"), m_separators);
@@ -122,7 +121,7 @@ private:
         m_presets = new PresetComboBox;
         m_presets->addItem(tr("A preset with a rather long name"));
         //! [code]
-        m_presets->setFixedWidth(narrow);
+        m_presets->setFixedWidth(narrow());
         m_presets->setAccessibleName(tr("Presets"));
         m_panel = new QListWidget(this);
         m_panel->setWindowFlags(Qt::Popup);
@@ -174,6 +173,13 @@ private:
         // The look is read from the style sheet when the delegate is made; the box deletes the one before.
         m_separators->setItemDelegate(new SeparatorDelegate(m_separators));
         //! [code]
+    }
+
+    /// Narrower than the items, whatever the font.
+    int narrow() const
+    {
+        constexpr int characters = 20;
+        return characters * fontMetrics().averageCharWidth();
     }
 
     static QStringList longItems()

@@ -107,8 +107,10 @@ private:
         //! [code]
         QLabel* duration = tile->GetDurationLabel();
         duration->setText(QStringLiteral("%1:%2").arg(number).arg(17 * (number + 1) % 60, 2, 10, QLatin1Char('0')));
-        constexpr QRect corner(6, tileSize.height() - 24, 40, 18);
-        duration->setGeometry(corner);
+        constexpr int gap = 6;
+        duration->setAlignment(Qt::AlignCenter);
+        duration->resize(duration->sizeHint().expandedTo({40, 18}));
+        duration->move(gap, tileSize.height() - gap - duration->height());
         //! [code]
         connect(tile, &PreviewImageLabel::starClicked, this,
                 [this, number] { log(QStringLiteral("tile %1: starClicked()").arg(number + 1)); });

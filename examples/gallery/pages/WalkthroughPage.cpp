@@ -153,7 +153,7 @@ private:
         addSwitch(tr("Hints avoid the list of hints"), false,
                   //! [code]
                   [this](bool on) { m_controller.setAvoidWidget(on ? m_hints : nullptr); });
-                  //! [code]
+        //! [code]
     }
 
     void watchNewStates()

@@ -60,7 +60,9 @@ void SignalLamp::paintEvent(QPaintEvent*)
     const int textLeft = lamp + gap;
     const QRect nameRect(textLeft, 0, width() - textLeft, fontMetrics().lineSpacing());
     const QRect valueRect = nameRect.translated(0, fontMetrics().lineSpacing());
-    const int alignment = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignTop);
+    // The arrow may come from a taller font.
+    const int alignment =
+        QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextDontClip;
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(QStyle::visualRect(layoutDirection(), rect(), nameRect), alignment, m_signal);
     painter.setPen(palette().color(QPalette::PlaceholderText));
