@@ -41,13 +41,12 @@ public:
     ///
     /// @param dir            where the dialog opens; where it is empty, or no folder that exists, the system chooses
     /// @param filter         the file types on offer; empty for none
-    /// @param selectedFilter gets the file type that was chosen, also after a cancelled system dialog. The system's
-    /// dialog
-    ///                       always opens on the first type, whatever stands here.
+    /// @param selectedFilter gets the file type that was chosen: from the system's dialog with its patterns, also when
+    ///                       that was cancelled; from Qt's, which shows no patterns here, the name alone. The system's
+    ///                       dialog always opens on the first type, whatever stands here.
     /// @param mode           without `Files` and `Directories`, `Files` is added
-    /// @return what was chosen. Cancelled, the system's dialog and Qt's dialog for several files give an empty list,
-    /// Qt's
-    ///         dialogs for one file or one folder a list with one empty string.
+    /// @return what was chosen. Cancelled, the system's dialog and Qt's for several files give an empty list, Qt's for
+    ///         one file or one folder a list with one empty string.
     static QStringList getOpen(QWidget* parent = nullptr, QString caption = QString(), QString dir = QString(),
                                QString filter = QString(), QString* selectedFilter = nullptr,
                                OpenMode mode = OpenMode::Files);
@@ -72,8 +71,7 @@ public:
     static QString getExistingDirectory(QWidget* parent = nullptr, QString caption = QString(), QString dir = QString(),
                                         QFileDialog::Options options = QFileDialog::ShowDirsOnly);
 
-    /// Asks for the folder of a disc: getExistingDirectory(), but a folder named "VIDEO_TS" gives the folder it lies
-    /// in.
+    /// Asks for the folder of a disc: getExistingDirectory(), but one named "VIDEO_TS" gives what it lies in.
     static QString getDVDDirectory(QWidget* parent = nullptr, QString caption = QString(), QString dir = QString(),
                                    QFileDialog::Options options = QFileDialog::ShowDirsOnly);
 
