@@ -1,7 +1,7 @@
 # Short names for the usual jobs. Everything that they do can also be done with the presets of CMakePresets.json.
 PREFIX ?= /usr/local
 ARGS ?=
-.PHONY: gallery test check bench docs windows install
+.PHONY: gallery test check bench docs windows translations install
 
 gallery: ## build and start the gallery; ARGS="--screenshots DIR" and other options are handed to it
 	@tools/install-dependencies build && tools/build dev kqtui-gallery && build/dev/examples/gallery/kqtui-gallery $(ARGS)
@@ -15,5 +15,7 @@ docs: ## the reference in build/release/docs/html
 	@tools/install-dependencies build test docs && tools/build release docs
 windows: ## cross-build for Windows and run its tests under wine
 	@tools/install-dependencies build windows && tools/build-windows-sysroot && tools/build windows && ctest --preset windows
+translations: ## take new texts over into translations/*.ts
+	@tools/install-dependencies build && tools/update-translations
 install: ## install the release build to PREFIX; DESTDIR is respected
 	@tools/install-dependencies build test && tools/build release && cmake --install build/release --prefix "$(PREFIX)"

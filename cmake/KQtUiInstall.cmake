@@ -6,6 +6,7 @@
 # languages, "licence" the licence's text, which distributions keep in a place of their own.
 include(CMakePackageConfigHelpers)
 
+set(KQTUI_TRANSLATIONSDIR ${CMAKE_INSTALL_DATADIR}/kqtui/translations)
 set(KQTUI_INSTALL_CMAKEDIR ${CMAKE_INSTALL_LIBDIR}/cmake/KQtUi)
 set(kqtui_targets KQtUi)
 set(KQTUI_STATIC_DEPENDENCIES)
@@ -41,6 +42,7 @@ install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT licence)
 
 configure_package_config_file(cmake/KQtUiConfig.cmake.in ${PROJECT_BINARY_DIR}/KQtUiConfig.cmake
   INSTALL_DESTINATION ${KQTUI_INSTALL_CMAKEDIR}
+  PATH_VARS KQTUI_TRANSLATIONSDIR
   NO_SET_AND_CHECK_MACRO)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/KQtUiConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/KQtUiConfig.cmake ${PROJECT_BINARY_DIR}/KQtUiConfigVersion.cmake
@@ -57,6 +59,7 @@ function(kqtui_pkgconfig_folder result folder)
 endfunction()
 kqtui_pkgconfig_folder(KQTUI_PC_LIBDIR ${CMAKE_INSTALL_LIBDIR})
 kqtui_pkgconfig_folder(KQTUI_PC_INCLUDEDIR ${CMAKE_INSTALL_INCLUDEDIR})
+kqtui_pkgconfig_folder(KQTUI_PC_TRANSLATIONSDIR ${KQTUI_TRANSLATIONSDIR})
 if(IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR})
   set(KQTUI_PC_PREFIX ${CMAKE_INSTALL_PREFIX})
 else()

@@ -1,6 +1,20 @@
+# The languages of translations/*.ts; English stands in the sources.
+set(KQTUI_LANGUAGES ar de es fr he it ja pl pt_BR ru uk zh_CN)
+
 # Translations are compiled by the build machine's lrelease, also where the library is built for another system. Without
 # one everything is built all the same, with English texts only.
 find_program(KQTUI_LRELEASE NAMES lrelease lrelease-qt5 HINTS /usr/lib/qt5/bin NO_CMAKE_FIND_ROOT_PATH)
+find_program(KQTUI_LUPDATE NAMES lupdate lupdate-qt5 HINTS /usr/lib/qt5/bin NO_CMAKE_FIND_ROOT_PATH)
+
+# kqtui_translation_files(<variable> <program>)
+# Sets the variable to the .ts files of "kqtui" or "gallery", one for each language.
+function(kqtui_translation_files variable program)
+  set(files)
+  foreach(language IN LISTS KQTUI_LANGUAGES)
+    list(APPEND files ${PROJECT_SOURCE_DIR}/translations/${program}_${language}.ts)
+  endforeach()
+  set(${variable} ${files} PARENT_SCOPE)
+endfunction()
 
 # kqtui_compile_translations(<variable> <file.ts>...)
 # Sets the variable to the list of .qm files that the build makes of them; empty where lrelease is missing.

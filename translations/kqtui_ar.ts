@@ -5,10 +5,12 @@
     <name>AdvancedColorPickerPopup</name>
     <message>
         <source>%</source>
+        <extracomment>Follows the opacity in a number field 50 pixels wide (&quot;100%&quot;): there is no room for a space before it.</extracomment>
         <translation>%</translation>
     </message>
     <message>
         <source>OPACITY</source>
+        <extracomment>Label before the opacity slider of the colour popup, in capitals where the script has them. At most about 12 letters.</extracomment>
         <translation>العتامة</translation>
     </message>
 </context>
@@ -16,14 +18,17 @@
     <name>Kestrel::Gui::FontStylePicker</name>
     <message>
         <source>Bold</source>
+        <extracomment>Tool tip of a toggle button: bold letters. The usual word of word processors.</extracomment>
         <translation>غامق</translation>
     </message>
     <message>
         <source>Italic</source>
+        <extracomment>Tool tip of a toggle button: italic letters. The usual word of word processors.</extracomment>
         <translation>مائل</translation>
     </message>
     <message>
         <source>Underline</source>
+        <extracomment>Tool tip of a toggle button: underlined letters. The usual word of word processors.</extracomment>
         <translation>تسطير</translation>
     </message>
 </context>
@@ -31,7 +36,7 @@
     <name>Kestrel::Gui::LineWidthComboBox</name>
     <message>
         <source>none</source>
-        <extracomment>Shown instead of a sample line where the line width is zero.</extracomment>
+        <extracomment>In the closed box, instead of a sample line, where the line width is zero: no line. At most about 8 letters.</extracomment>
         <translation>بلا</translation>
     </message>
 </context>
@@ -39,7 +44,7 @@
     <name>Kestrel::Gui::LineWidthDelegate</name>
     <message>
         <source>none</source>
-        <extracomment>Shown instead of a sample line where the line width is zero.</extracomment>
+        <extracomment>In the list of line widths, instead of a sample line, where the width is zero: no line. At most about 8 letters.</extracomment>
         <translation>بلا</translation>
     </message>
 </context>
@@ -47,6 +52,7 @@
     <name>Kestrel::Gui::PreviewImageLabel</name>
     <message>
         <source>Applied effects</source>
+        <extracomment>Tool tip of the star on the preview of a picture or film: tells, and on a click shows, which effects were applied to it.</extracomment>
         <translation>التأثيرات المطبّقة</translation>
     </message>
 </context>
@@ -54,12 +60,12 @@
     <name>Kestrel::Gui::RColorPickerPopup</name>
     <message>
         <source>More...</source>
-        <extracomment>Button that opens a dialog with all colours.</extracomment>
+        <extracomment>Button at the bottom of the colour palette: opens a dialog with all colours. At most about 15 letters: the button does not grow.</extracomment>
         <translation>المزيد...</translation>
     </message>
     <message>
         <source>Default</source>
-        <extracomment>Button that chooses the default colour.</extracomment>
+        <extracomment>Button at the top of the colour palette: chooses the default colour, not a default action. At most about 15 letters: the button does not grow.</extracomment>
         <translation>افتراضي</translation>
     </message>
 </context>
@@ -67,18 +73,22 @@
     <name>Kestrel::Gui::TextAlignPicker</name>
     <message>
         <source>Align left</source>
+        <extracomment>Tool tip of a toggle button: the paragraph is aligned with the left edge.</extracomment>
         <translation>محاذاة إلى اليسار</translation>
     </message>
     <message>
         <source>Align right</source>
+        <extracomment>Tool tip of a toggle button: the paragraph is aligned with the right edge.</extracomment>
         <translation>محاذاة إلى اليمين</translation>
     </message>
     <message>
         <source>Justify</source>
+        <extracomment>Tool tip of a toggle button: the lines of the paragraph reach from edge to edge. The usual word of word processors.</extracomment>
         <translation>ضبط</translation>
     </message>
     <message>
         <source>Align center</source>
+        <extracomment>Tool tip of a toggle button: the paragraph is centred between the edges.</extracomment>
         <translation>توسيط</translation>
     </message>
 </context>
@@ -86,6 +96,7 @@
     <name>QObject</name>
     <message>
         <source>Left: %1# Top: %2# Width: %3# Height: %4#</source>
+        <extracomment>Caption above a selection frame: position and size of the frame in per cent of the area it lies in. %1 to %4 are whole numbers. Each # becomes a per cent sign: keep it after its number. One line, as short as can be: the caption is cut off at the edge of a narrow area.</extracomment>
         <translation>يسار: %1# أعلى: %2# العرض: %3# الارتفاع: %4#</translation>
     </message>
 </context>
@@ -93,18 +104,22 @@
     <name>StyledDockWidgetTitlebar</name>
     <message>
         <source>StyledDockWidgetTitlebar</source>
+        <extracomment>Name of the component; seen only where the bar is a window of its own. Stays as it is in every language.</extracomment>
         <translation>StyledDockWidgetTitlebar</translation>
     </message>
     <message>
         <source>Playlist</source>
+        <extracomment>Title of a dock panel with a list of media to be played. At most about 30 letters.</extracomment>
         <translation>قائمة التشغيل</translation>
     </message>
     <message>
         <source>Unpin playlist</source>
+        <extracomment>Tool tip of a button: detaches the playlist&apos;s panel from the window, so that it floats.</extracomment>
         <translation>إلغاء تثبيت قائمة التشغيل</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Tool tip of a button: closes the playlist&apos;s panel. A verb.</extracomment>
         <translation>إغلاق</translation>
     </message>
 </context>

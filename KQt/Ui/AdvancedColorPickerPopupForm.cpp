@@ -98,7 +98,10 @@ AdvancedColorPickerPopupForm::AdvancedColorPickerPopupForm(QFrame* popup)
 
 void AdvancedColorPickerPopupForm::retranslate()
 {
+    //: Follows the opacity in a number field 50 pixels wide ("100%"): there is no room for a space before it.
     opacityEdit->setSuffix(QCoreApplication::translate("AdvancedColorPickerPopup", "%"));
+    //: Label before the opacity slider of the colour popup, in capitals where the script has them. At most about 12
+    //: letters.
     label->setText(QCoreApplication::translate("AdvancedColorPickerPopup", "OPACITY"));
 }
 

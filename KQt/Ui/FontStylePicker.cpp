@@ -85,8 +85,11 @@ void FontStylePicker::mouseMoveEvent(QMouseEvent* event)
 
 void FontStylePicker::retranslate()
 {
+    //: Tool tip of a toggle button: bold letters. The usual word of word processors.
     m_buttons.value(BoldKey)->setToolTip(tr("Bold"));
+    //: Tool tip of a toggle button: italic letters. The usual word of word processors.
     m_buttons.value(ItalicKey)->setToolTip(tr("Italic"));
+    //: Tool tip of a toggle button: underlined letters. The usual word of word processors.
     m_buttons.value(UnderlineKey)->setToolTip(tr("Underline"));
 }
 

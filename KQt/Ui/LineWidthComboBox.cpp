@@ -32,7 +32,7 @@ void LineWidthComboBox::paintEvent(QPaintEvent* event)
         Detail::drawSampleLine(painter, rect(), rect().left() + Detail::lineSampleMargin,
                                rect().right() - gapBeforeArrow - Detail::arrowWidth(*this));
     } else {
-        //: Shown instead of a sample line where the line width is zero.
+        //: In the closed box, instead of a sample line, where the line width is zero: no line. At most about 8 letters.
         Detail::drawMissingLineText(painter, rect(), tr("none"));
     }
 }

@@ -23,7 +23,8 @@ void LineWidthDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     const QPen previousPen = painter->pen();
     painter->setPen(Detail::withWidth(previousPen, std::max(width, 1)));
     if (width < 1) {
-        //: Shown instead of a sample line where the line width is zero.
+        //: In the list of line widths, instead of a sample line, where the width is zero: no line. At most about 8
+        //: letters.
         Detail::drawMissingLineText(*painter, option.rect, tr("none"));
     } else {
         Detail::drawSampleLine(*painter, option.rect, option.rect.left() + Detail::lineSampleMargin,

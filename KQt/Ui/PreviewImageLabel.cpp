@@ -14,6 +14,13 @@ void tag(QWidget* child, const QString& objectName, const QString& role)
     child->setProperty("styleTag", role);
 }
 
+QString starToolTip()
+{
+    //: Tool tip of the star on the preview of a picture or film: tells, and on a click shows, which effects were
+    //: applied to it.
+    return PreviewImageLabel::tr("Applied effects");
+}
+
 } // namespace
 
 PreviewImageLabel::PreviewImageLabel(QWidget* parent)
@@ -24,7 +31,7 @@ PreviewImageLabel::PreviewImageLabel(QWidget* parent)
 {
     Q_UNUSED(parent)
     tag(m_star, QStringLiteral("starButton"), QStringLiteral("star"));
-    m_star->setToolTip(tr("Applied effects"));
+    m_star->setToolTip(starToolTip());
     m_star->installEventFilter(this);
     m_star->hide();
 
@@ -82,7 +89,7 @@ bool PreviewImageLabel::eventFilter(QObject* watched, QEvent* event)
     case QEvent::ContextMenu:
         return true;
     case QEvent::LanguageChange:
-        m_star->setToolTip(tr("Applied effects"));
+        m_star->setToolTip(starToolTip());
         return QObject::eventFilter(watched, event);
     default:
         return QObject::eventFilter(watched, event);

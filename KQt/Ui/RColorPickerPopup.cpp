@@ -261,10 +261,12 @@ void RColorPickerPopup::paintEvent(QPaintEvent* event)
 
     const QPointF hoverPoint = mapFromGlobal(QCursor::pos());
     m_moreRect = buttonRect(moreButtonTop(), width());
-    //: Button that opens a dialog with all colours.
+    //: Button at the bottom of the colour palette: opens a dialog with all colours. At most about 15 letters: the
+    //: button does not grow.
     paintButton(&painter, m_moreRect, tr("More..."), m_moreRect.contains(hoverPoint));
     m_defaultRect = buttonRect(defaultButtonTop, width());
-    //: Button that chooses the default colour.
+    //: Button at the top of the colour palette: chooses the default colour, not a default action. At most about 15
+    //: letters: the button does not grow.
     paintButton(&painter, m_defaultRect, tr("Default"), m_defaultRect.contains(hoverPoint));
     paintHoveredCells(painter, hoverPoint);
 }

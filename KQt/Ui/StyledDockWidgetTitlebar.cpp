@@ -157,9 +157,13 @@ void StyledDockWidgetTitlebar::changeEvent(QEvent* event)
 
 void StyledDockWidgetTitlebar::retranslate()
 {
+    //: Name of the component; seen only where the bar is a window of its own. Stays as it is in every language.
     setWindowTitle(translated(QT_TRANSLATE_NOOP("StyledDockWidgetTitlebar", "StyledDockWidgetTitlebar")));
+    //: Title of a dock panel with a list of media to be played. At most about 30 letters.
     m_form->title->setText(translated(QT_TRANSLATE_NOOP("StyledDockWidgetTitlebar", "Playlist")));
+    //: Tool tip of a button: detaches the playlist's panel from the window, so that it floats.
     m_form->restore->setToolTip(translated(QT_TRANSLATE_NOOP("StyledDockWidgetTitlebar", "Unpin playlist")));
+    //: Tool tip of a button: closes the playlist's panel. A verb.
     m_form->close->setToolTip(translated(QT_TRANSLATE_NOOP("StyledDockWidgetTitlebar", "Close")));
 }
 

@@ -82,9 +82,14 @@ void TextAlignPicker::mouseMoveEvent(QMouseEvent* event)
 
 void TextAlignPicker::retranslate()
 {
+    //: Tool tip of a toggle button: the paragraph is aligned with the left edge.
     m_buttons.value(Qt::AlignLeft)->setToolTip(tr("Align left"));
+    //: Tool tip of a toggle button: the paragraph is aligned with the right edge.
     m_buttons.value(Qt::AlignRight)->setToolTip(tr("Align right"));
+    //: Tool tip of a toggle button: the lines of the paragraph reach from edge to edge. The usual word of word
+    //: processors.
     m_buttons.value(Qt::AlignJustify)->setToolTip(tr("Justify"));
+    //: Tool tip of a toggle button: the paragraph is centred between the edges.
     m_buttons.value(Qt::AlignCenter)->setToolTip(tr("Align center"));
 }
 

@@ -14,7 +14,7 @@ namespace Gallery {
 
 struct Language
 {
-    QString code; ///< ISO 639-1
+    QString code; ///< ISO 639-1, with the country where the translation is for one: "pt_BR"
     QString name; ///< in the language itself
 };
 

@@ -69,6 +69,9 @@ QPen framePen(bool highlighted)
 QString captionPattern()
 {
     // Replaced after translating: a per cent sign right after a place would not survive every translation tool.
+    //: Caption above a selection frame: position and size of the frame in per cent of the area it lies in. %1 to %4 are
+    //: whole numbers. Each # becomes a per cent sign: keep it after its number. One line, as short as can be: the
+    //: caption is cut off at the edge of a narrow area.
     return QObject::tr("Left: %1# Top: %2# Width: %3# Height: %4#").replace(QLatin1Char('#'), QLatin1Char('%'));
 }
 

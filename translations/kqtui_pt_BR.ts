@@ -1,0 +1,126 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR" sourcelanguage="en">
+<context>
+    <name>AdvancedColorPickerPopup</name>
+    <message>
+        <source>%</source>
+        <extracomment>Follows the opacity in a number field 50 pixels wide (&quot;100%&quot;): there is no room for a space before it.</extracomment>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>OPACITY</source>
+        <extracomment>Label before the opacity slider of the colour popup, in capitals where the script has them. At most about 12 letters.</extracomment>
+        <translation>OPACIDADE</translation>
+    </message>
+</context>
+<context>
+    <name>Kestrel::Gui::FontStylePicker</name>
+    <message>
+        <source>Bold</source>
+        <extracomment>Tool tip of a toggle button: bold letters. The usual word of word processors.</extracomment>
+        <translation>Negrito</translation>
+    </message>
+    <message>
+        <source>Italic</source>
+        <extracomment>Tool tip of a toggle button: italic letters. The usual word of word processors.</extracomment>
+        <translation>Itálico</translation>
+    </message>
+    <message>
+        <source>Underline</source>
+        <extracomment>Tool tip of a toggle button: underlined letters. The usual word of word processors.</extracomment>
+        <translation>Sublinhado</translation>
+    </message>
+</context>
+<context>
+    <name>Kestrel::Gui::LineWidthComboBox</name>
+    <message>
+        <source>none</source>
+        <extracomment>In the closed box, instead of a sample line, where the line width is zero: no line. At most about 8 letters.</extracomment>
+        <translation>nenhuma</translation>
+    </message>
+</context>
+<context>
+    <name>Kestrel::Gui::LineWidthDelegate</name>
+    <message>
+        <source>none</source>
+        <extracomment>In the list of line widths, instead of a sample line, where the width is zero: no line. At most about 8 letters.</extracomment>
+        <translation>nenhuma</translation>
+    </message>
+</context>
+<context>
+    <name>Kestrel::Gui::PreviewImageLabel</name>
+    <message>
+        <source>Applied effects</source>
+        <extracomment>Tool tip of the star on the preview of a picture or film: tells, and on a click shows, which effects were applied to it.</extracomment>
+        <translation>Efeitos aplicados</translation>
+    </message>
+</context>
+<context>
+    <name>Kestrel::Gui::RColorPickerPopup</name>
+    <message>
+        <source>More...</source>
+        <extracomment>Button at the bottom of the colour palette: opens a dialog with all colours. At most about 15 letters: the button does not grow.</extracomment>
+        <translation>Mais...</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <extracomment>Button at the top of the colour palette: chooses the default colour, not a default action. At most about 15 letters: the button does not grow.</extracomment>
+        <translation>Padrão</translation>
+    </message>
+</context>
+<context>
+    <name>Kestrel::Gui::TextAlignPicker</name>
+    <message>
+        <source>Align left</source>
+        <extracomment>Tool tip of a toggle button: the paragraph is aligned with the left edge.</extracomment>
+        <translation>Alinhar à esquerda</translation>
+    </message>
+    <message>
+        <source>Align right</source>
+        <extracomment>Tool tip of a toggle button: the paragraph is aligned with the right edge.</extracomment>
+        <translation>Alinhar à direita</translation>
+    </message>
+    <message>
+        <source>Justify</source>
+        <extracomment>Tool tip of a toggle button: the lines of the paragraph reach from edge to edge. The usual word of word processors.</extracomment>
+        <translation>Justificar</translation>
+    </message>
+    <message>
+        <source>Align center</source>
+        <extracomment>Tool tip of a toggle button: the paragraph is centred between the edges.</extracomment>
+        <translation>Centralizar</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Left: %1# Top: %2# Width: %3# Height: %4#</source>
+        <extracomment>Caption above a selection frame: position and size of the frame in per cent of the area it lies in. %1 to %4 are whole numbers. Each # becomes a per cent sign: keep it after its number. One line, as short as can be: the caption is cut off at the edge of a narrow area.</extracomment>
+        <translation>Esquerda: %1# Topo: %2# Largura: %3# Altura: %4#</translation>
+    </message>
+</context>
+<context>
+    <name>StyledDockWidgetTitlebar</name>
+    <message>
+        <source>StyledDockWidgetTitlebar</source>
+        <extracomment>Name of the component; seen only where the bar is a window of its own. Stays as it is in every language.</extracomment>
+        <translation>StyledDockWidgetTitlebar</translation>
+    </message>
+    <message>
+        <source>Playlist</source>
+        <extracomment>Title of a dock panel with a list of media to be played. At most about 30 letters.</extracomment>
+        <translation>Lista de reprodução</translation>
+    </message>
+    <message>
+        <source>Unpin playlist</source>
+        <extracomment>Tool tip of a button: detaches the playlist&apos;s panel from the window, so that it floats.</extracomment>
+        <translation>Desafixar a lista de reprodução</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Tool tip of a button: closes the playlist&apos;s panel. A verb.</extracomment>
+        <translation>Fechar</translation>
+    </message>
+</context>
+</TS>
