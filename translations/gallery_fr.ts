@@ -5,892 +5,892 @@
     <name>Gallery</name>
     <message>
         <source>Advanced colour picker</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélecteur de couleur avancé</translation>
     </message>
     <message>
         <source>Combo boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>Listes déroulantes</translation>
     </message>
     <message>
         <source>Drop and drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Déposer et glisser</translation>
     </message>
     <message>
         <source>Event helpers</source>
-        <translation type="unfinished"></translation>
+        <translation>Aides pour les événements</translation>
     </message>
     <message>
         <source>Eyedropper</source>
-        <translation type="unfinished"></translation>
+        <translation>Pipette</translation>
     </message>
     <message>
         <source>Formatting</source>
-        <translation type="unfinished"></translation>
+        <translation>Mise en forme</translation>
     </message>
     <message>
         <source>Frame over a window</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadre sur une fenêtre</translation>
     </message>
     <message>
         <source>Labels and inputs</source>
-        <translation type="unfinished"></translation>
+        <translation>Libellés et saisies</translation>
     </message>
     <message>
         <source>Named palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Palette nommée</translation>
     </message>
     <message>
         <source>Pens and lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Stylos et lignes</translation>
     </message>
     <message>
         <source>Selection frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadres de sélection</translation>
     </message>
     <message>
         <source>Tiles and title bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Tuiles et barres de titre</translation>
     </message>
     <message>
         <source>Walkthrough</source>
-        <translation type="unfinished"></translation>
+        <translation>Visite guidée</translation>
     </message>
     <message>
         <source>Widget renderer</source>
-        <translation type="unfinished"></translation>
+        <translation>Rendu de widgets</translation>
     </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
     <message>
         <source>Click a colour to open its popup; the note takes the new colour while you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez sur une couleur pour ouvrir son menu ; la note prend la nouvelle couleur pendant que vous choisissez.</translation>
     </message>
     <message>
         <source>Buy milk, feed the cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Acheter du lait, nourrir le chat</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Papier</translation>
     </message>
     <message>
         <source>Ink</source>
-        <translation type="unfinished"></translation>
+        <translation>Encre</translation>
     </message>
     <message>
         <source>Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Surligneur</translation>
     </message>
     <message>
         <source>Drag a colour from the palette to one of the twelve slots above it. The slots are shared: open another picker and find the colour there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites glisser une couleur de la palette vers l&apos;une des douze cases situées au-dessus. Les cases sont partagées : ouvrez un autre sélecteur et vous y retrouverez la couleur.</translation>
     </message>
     <message>
         <source>Opacity of the marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacité du surligneur</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Activé</translation>
     </message>
     <message>
         <source>Random colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleurs aléatoires</translation>
     </message>
     <message>
         <source>A colour that is set by the program makes no signal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une couleur définie par le programme n&apos;émet aucun signal.</translation>
     </message>
     <message>
         <source>Open popup here</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le menu ici</translation>
     </message>
 </context>
 <context>
     <name>Gallery::ComboBoxesPage</name>
     <message>
         <source>Combo boxes that are narrower than their items. Turn the wheel over the form, open the lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des listes déroulantes plus étroites que leurs éléments. Tournez la molette au-dessus du formulaire, ouvrez les listes.</translation>
     </message>
     <message>
         <source>Narrow box</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste étroite</translation>
     </message>
     <message>
         <source>Elided text and wide popup</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte abrégé et liste large</translation>
     </message>
     <message>
         <source>Row %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1</translation>
     </message>
     <message>
         <source>No wheel in a scrolling form</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de molette dans un formulaire défilant</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Couper</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller</translation>
     </message>
     <message>
         <source>Box with separators</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste avec séparateurs</translation>
     </message>
     <message>
         <source>Separators</source>
-        <translation type="unfinished"></translation>
+        <translation>Séparateurs</translation>
     </message>
     <message>
         <source>A preset with a rather long name</source>
-        <translation type="unfinished"></translation>
+        <translation>Un préréglage au nom plutôt long</translation>
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Préréglages</translation>
     </message>
     <message>
         <source>Calm</source>
-        <translation type="unfinished"></translation>
+        <translation>Calme</translation>
     </message>
     <message>
         <source>Bright</source>
-        <translation type="unfinished"></translation>
+        <translation>Lumineux</translation>
     </message>
     <message>
         <source>Night</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuit</translation>
     </message>
     <message>
         <source>Preset panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Panneau de préréglages</translation>
     </message>
     <message>
         <source>Wide popup</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste large</translation>
     </message>
     <message>
         <source>Mouse wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>Molette de la souris</translation>
     </message>
     <message>
         <source>Elide text</source>
-        <translation type="unfinished"></translation>
+        <translation>Abréger le texte</translation>
     </message>
     <message>
         <source>Tool tip:</source>
-        <translation type="unfinished"></translation>
+        <translation>Infobulle :</translation>
     </message>
     <message>
         <source>Styled separators</source>
-        <translation type="unfinished"></translation>
+        <translation>Séparateurs stylisés</translation>
     </message>
     <message>
         <source>Preset icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icône du préréglage</translation>
     </message>
     <message>
         <source>Short</source>
-        <translation type="unfinished"></translation>
+        <translation>Court</translation>
     </message>
     <message>
         <source>An item whose text is much longer than the box</source>
-        <translation type="unfinished"></translation>
+        <translation>Un élément dont le texte est bien plus long que la liste</translation>
     </message>
     <message>
         <source>Another one that does not fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre qui n&apos;entre pas</translation>
     </message>
 </context>
 <context>
     <name>Gallery::DropAndDragPage</name>
     <message>
         <source>Drop files from a file manager: one observer takes pictures, the other texts, and each hears of everything that is dropped. Drag the panel by any point, its button included: what was dragged is not clicked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Déposez des fichiers depuis un gestionnaire de fichiers : un observateur prend les images, l&apos;autre les textes, et chacun est informé de tout ce qui est déposé. Faites glisser le panneau par n&apos;importe quel point, son bouton compris : ce qui a été glissé n&apos;est pas cliqué.</translation>
     </message>
     <message>
         <source>Pictures are welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Les images sont les bienvenues</translation>
     </message>
     <message>
         <source>Texts are welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Les textes sont les bienvenus</translation>
     </message>
     <message>
         <source>Drop pictures or texts here</source>
-        <translation type="unfinished"></translation>
+        <translation>Déposez ici des images ou des textes</translation>
     </message>
     <message>
         <source>Drag me anywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites-moi glisser n&apos;importe où</translation>
     </message>
     <message>
         <source>Click me</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez-moi</translation>
     </message>
 </context>
 <context>
     <name>Gallery::EventHelpersPage</name>
     <message>
         <source>Scribble on the pad: the lamps below show the signals that the helpers make of its events. Without propagation the signals still come, but the pad itself sees no mouse any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Griffonnez sur le bloc : les lampes ci-dessous montrent les signaux que les aides tirent de ses événements. Sans propagation, les signaux arrivent toujours, mais le bloc lui-même ne voit plus la souris.</translation>
     </message>
     <message>
         <source>Scribble here</source>
-        <translation type="unfinished"></translation>
+        <translation>Griffonnez ici</translation>
     </message>
     <message>
         <source>Events go on to the pad</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bloc reçoit les événements</translation>
     </message>
     <message>
         <source>Hover events</source>
-        <translation type="unfinished"></translation>
+        <translation>Événements de survol</translation>
     </message>
     <message>
         <source>Moves without a button</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacements sans bouton</translation>
     </message>
     <message>
         <source>Wipe the pad</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer le bloc</translation>
     </message>
     <message>
         <source>Drop it here</source>
-        <translation type="unfinished"></translation>
+        <translation>Déposez-le ici</translation>
     </message>
     <message>
         <source>Drag this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites glisser ce texte</translation>
     </message>
     <message>
         <source>Drop field is guarded</source>
-        <translation type="unfinished"></translation>
+        <translation>La zone de dépôt est protégée</translation>
     </message>
     <message>
         <source>Window stays on top</source>
-        <translation type="unfinished"></translation>
+        <translation>La fenêtre reste au premier plan</translation>
     </message>
 </context>
 <context>
     <name>Gallery::EyedropperPage</name>
     <message>
         <source>Press the button, then click into the picture: the button takes the colour under the cursor. Any key picks as well; a click elsewhere ends it without a colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyez sur le bouton, puis cliquez dans l&apos;image : le bouton prend la couleur sous le curseur. Une touche du clavier convient aussi ; un clic ailleurs y met fin sans couleur.</translation>
     </message>
     <message>
         <source>Pick a colour from the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Prélever une couleur dans l&apos;image</translation>
     </message>
     <message>
         <source>Button shows the colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bouton montre la couleur</translation>
     </message>
     <message>
         <source>Picture is the target</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image est la cible</translation>
     </message>
 </context>
 <context>
     <name>Gallery::FormattingPage</name>
     <message>
         <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettez l&apos;exemple en forme avec les deux barres. Leurs icônes viennent de la feuille de style de la page, qui sélectionne les boutons par leur propriété « styleTag ».</translation>
     </message>
     <message>
         <source>The quick brown fox jumps over the lazy dog, and the dog, being lazy, lets it jump as often as it likes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le vif renard brun saute par-dessus le chien paresseux, et le chien, étant paresseux, le laisse sauter autant qu&apos;il veut.</translation>
     </message>
     <message>
         <source>Plain font</source>
-        <translation type="unfinished"></translation>
+        <translation>Police simple</translation>
     </message>
     <message>
         <source>The program sets a font: a signal for each toggle that changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le programme définit une police : un signal pour chaque bouton qui change.</translation>
     </message>
     <message>
         <source>Set to left</source>
-        <translation type="unfinished"></translation>
+        <translation>Aligner à gauche</translation>
     </message>
     <message>
         <source>The program checks a button: no signal, and the sample stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le programme coche un bouton : aucun signal, et l&apos;exemple reste tel quel.</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Activé</translation>
     </message>
 </context>
 <context>
     <name>Gallery::FrameOverWindowPage</name>
     <message>
         <source>The window below goes on living while the frame lies over it. In edit mode the mouse moves the frame; otherwise it reaches the window.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fenêtre ci-dessous continue de vivre pendant que le cadre la recouvre. En mode édition, la souris déplace le cadre ; sinon, elle atteint la fenêtre.</translation>
     </message>
     <message>
         <source>Type here while edit mode is off</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrivez ici hors du mode édition</translation>
     </message>
     <message>
         <source>Press here while edit mode is off</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyez ici hors du mode édition</translation>
     </message>
     <message>
         <source>A window with its own life</source>
-        <translation type="unfinished"></translation>
+        <translation>Une fenêtre qui vit sa propre vie</translation>
     </message>
     <message>
         <source>From %1 %, %2 %: %3 % wide, %4 % high</source>
         <comment>position and size of the frame</comment>
-        <translation type="unfinished"></translation>
+        <translation>À partir de %1 %, %2 % : largeur %3 %, hauteur %4 %</translation>
     </message>
     <message>
         <source>Edit mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode édition</translation>
     </message>
     <message>
         <source>Keep the ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver les proportions</translation>
     </message>
     <message>
         <source>Work rect</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone de travail</translation>
     </message>
     <message>
         <source>Veil</source>
-        <translation type="unfinished"></translation>
+        <translation>Voile</translation>
     </message>
 </context>
 <context>
     <name>Gallery::GalleryHint</name>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivant</translation>
     </message>
     <message>
         <source>Not now</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas maintenant</translation>
     </message>
     <message>
         <source>Never again</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus jamais</translation>
     </message>
 </context>
 <context>
     <name>Gallery::LabelsAndInputsPage</name>
     <message>
         <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites glisser la poignée pour rétrécir la colonne à sa gauche : les libellés et le champ de saisie abrègent leurs textes et les donnent en entier dans des infobulles. Le champ les montre en entier pendant la saisie.</translation>
     </message>
     <message>
         <source>A file name that is much too long for a column as narrow as this one.txt</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nom de fichier beaucoup trop long pour une colonne aussi étroite.txt</translation>
     </message>
     <message>
         <source>Mixed directions: %1, elided in order</source>
-        <translation type="unfinished"></translation>
+        <translation>Sens mêlés : %1, abrégé dans l&apos;ordre</translation>
     </message>
     <message>
         <source>Short</source>
-        <translation type="unfinished"></translation>
+        <translation>Court</translation>
     </message>
     <message>
         <source>Drag the handle at the edge of this field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites glisser la poignée au bord de ce champ.</translation>
     </message>
     <message>
         <source>Press here, with any button</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyez ici, avec n&apos;importe quel bouton</translation>
     </message>
     <message>
         <source>Clipped text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte abrégé</translation>
     </message>
     <message>
         <source>A text that is shown whole while you edit it, and elided while you do not</source>
-        <translation type="unfinished"></translation>
+        <translation>Un texte montré en entier pendant la saisie, et abrégé sinon</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes</translation>
     </message>
     <message>
         <source>Labels report presses</source>
-        <translation type="unfinished"></translation>
+        <translation>Les libellés signalent les clics</translation>
     </message>
     <message>
         <source>Labels elide their texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Les libellés abrègent leurs textes</translation>
     </message>
     <message>
         <source>at the end</source>
-        <translation type="unfinished"></translation>
+        <translation>à la fin</translation>
     </message>
     <message>
         <source>in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>au milieu</translation>
     </message>
     <message>
         <source>at the beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>au début</translation>
     </message>
     <message>
         <source>Elide</source>
-        <translation type="unfinished"></translation>
+        <translation>Abréger</translation>
     </message>
     <message>
         <source>What do you think of it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Qu&apos;en pensez-vous ?</translation>
     </message>
     <message>
         <source>Placeholder</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte indicatif</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Digits at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffres au plus</translation>
     </message>
 </context>
 <context>
     <name>Gallery::MainWindow</name>
     <message>
         <source>KQtUi gallery</source>
-        <translation type="unfinished"></translation>
+        <translation>Galerie KQtUi</translation>
     </message>
     <message>
         <source>&amp;Find a page</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rechercher une page</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>&amp;Dark palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Palette &amp;sombre</translation>
     </message>
     <message>
         <source>&amp;Right to left</source>
-        <translation type="unfinished"></translation>
+        <translation>De &amp;droite à gauche</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Affichage</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Langue</translation>
     </message>
     <message>
         <source>Language: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue : %1</translation>
     </message>
 </context>
 <context>
     <name>Gallery::NamedPalettePage</name>
     <message>
         <source>Click the button: a default colour, forty named colours, and a dialog behind &quot;More...&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez sur le bouton : une couleur par défaut, quarante couleurs nommées et une boîte de dialogue derrière « Plus... ».</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur</translation>
     </message>
     <message>
         <source>While its popup is open the picker&apos;s property &quot;pressed&quot; is true: the page&apos;s style sheet gives it a thick border then.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tant que sa palette est ouverte, la propriété « pressed » du sélecteur est vraie : la feuille de style de la page lui donne alors une bordure épaisse.</translation>
     </message>
     <message>
         <source>Colorized</source>
-        <translation type="unfinished"></translation>
+        <translation>Coloré</translation>
     </message>
     <message>
         <source>Dark popup</source>
-        <translation type="unfinished"></translation>
+        <translation>Palette sombre</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Activé</translation>
     </message>
     <message>
         <source>Make it the default</source>
-        <translation type="unfinished"></translation>
+        <translation>Définir par défaut</translation>
     </message>
     <message>
         <source>The popup&apos;s &quot;Default&quot; button chooses this colour from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bouton « Par défaut » de la palette choisit désormais cette couleur.</translation>
     </message>
 </context>
 <context>
     <name>Gallery::Page</name>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>Signals</source>
-        <translation type="unfinished"></translation>
+        <translation>Signaux</translation>
     </message>
 </context>
 <context>
     <name>Gallery::PageList</name>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrer</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages</translation>
     </message>
 </context>
 <context>
     <name>Gallery::PensAndLinesPage</name>
     <message>
         <source>Pens, lines and opacity: each group draws what its boxes say.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stylos, lignes et opacité : chaque groupe dessine ce que disent ses listes.</translation>
     </message>
     <message>
         <source>Pen picker</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélecteur de stylo</translation>
     </message>
     <message>
         <source>Line style</source>
-        <translation type="unfinished"></translation>
+        <translation>Style de ligne</translation>
     </message>
     <message>
         <source>Line width</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur de ligne</translation>
     </message>
     <message>
         <source>Line style and line width</source>
-        <translation type="unfinished"></translation>
+        <translation>Style et largeur de ligne</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacité</translation>
     </message>
     <message>
         <source>Opacity adapter</source>
-        <translation type="unfinished"></translation>
+        <translation>Adaptateur d&apos;opacité</translation>
     </message>
     <message>
         <source>Value: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur : %1</translation>
     </message>
     <message>
         <source>Slider with a zero tick</source>
-        <translation type="unfinished"></translation>
+        <translation>Curseur avec repère du zéro</translation>
     </message>
     <message>
         <source>Coloured tick</source>
-        <translation type="unfinished"></translation>
+        <translation>Repère coloré</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Activé</translation>
     </message>
 </context>
 <context>
     <name>Gallery::SelectionFramesPage</name>
     <message>
         <source>Drag the frames, their corners and their sides. The small picture is what the frames are rendered to, with its alpha.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites glisser les cadres, leurs coins et leurs côtés. La petite image est le rendu des cadres, avec son canal alpha.</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Region</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone</translation>
     </message>
     <message>
         <source>Holiday by the sea</source>
-        <translation type="unfinished"></translation>
+        <translation>Vacances à la mer</translation>
     </message>
     <message>
         <source>Picture keeps its ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;image garde ses proportions</translation>
     </message>
     <message>
         <source>Region keeps its ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>La zone garde ses proportions</translation>
     </message>
     <message>
         <source>Work rect</source>
-        <translation type="unfinished"></translation>
+        <translation>Zone de travail</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Transparence</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplissage</translation>
     </message>
     <message>
         <source>Outline</source>
-        <translation type="unfinished"></translation>
+        <translation>Contour</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>Police</translation>
     </message>
 </context>
 <context>
     <name>Gallery::SignalLog</name>
     <message>
         <source>Signals appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les signaux apparaissent ici.</translation>
     </message>
 </context>
 <context>
     <name>Gallery::TilesPage</name>
     <message>
         <source>Tiles with a star, a play button and a duration over a picture; and a panel whose title bar can be dragged, detached and closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des tuiles avec une étoile, un bouton de lecture et une durée sur une image ; et un panneau dont la barre de titre peut être déplacée, détachée et fermée.</translation>
     </message>
     <message>
         <source>Sunrise</source>
-        <translation type="unfinished"></translation>
+        <translation>Lever du soleil</translation>
     </message>
     <message>
         <source>Noon</source>
-        <translation type="unfinished"></translation>
+        <translation>Midi</translation>
     </message>
     <message>
         <source>Sunset</source>
-        <translation type="unfinished"></translation>
+        <translation>Coucher du soleil</translation>
     </message>
     <message>
         <source>Night</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuit</translation>
     </message>
     <message>
         <source>Pin playlist</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancrer la liste de lecture</translation>
     </message>
     <message>
         <source>Unpin playlist</source>
-        <translation type="unfinished"></translation>
+        <translation>Détacher la liste de lecture</translation>
     </message>
     <message>
         <source>Stars</source>
-        <translation type="unfinished"></translation>
+        <translation>Étoiles</translation>
     </message>
     <message>
         <source>Play buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Boutons de lecture</translation>
     </message>
     <message>
         <source>Clips can be played</source>
-        <translation type="unfinished"></translation>
+        <translation>Les clips peuvent être lus</translation>
     </message>
     <message>
         <source>Styled as floating</source>
-        <translation type="unfinished"></translation>
+        <translation>Style flottant</translation>
     </message>
     <message>
         <source>Show the panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le panneau</translation>
     </message>
 </context>
 <context>
     <name>Gallery::Tour</name>
     <message>
         <source>Welcome to the gallery</source>
-        <translation type="unfinished"></translation>
+        <translation>Bienvenue dans la galerie</translation>
     </message>
     <message>
         <source>Every family of components has a page of its own, and all of them are alive. The tour shows you around in a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque famille de composants a sa propre page, et tous sont bien vivants. La visite vous fait tout découvrir en une minute.</translation>
     </message>
     <message>
         <source>Find a page</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouver une page</translation>
     </message>
     <message>
         <source>Type part of a title. The arrow keys move through the pages that are left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tapez une partie du titre. Les flèches du clavier parcourent les pages restantes.</translation>
     </message>
     <message>
         <source>Dark, and from right to left</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombre, et de droite à gauche</translation>
     </message>
     <message>
         <source>These two switches are one target: the frame goes round both. This hint stays clear of the filter, so that you can go on typing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces deux boutons forment une seule cible : le cadre les entoure tous les deux. Cette bulle n&apos;empiète pas sur le filtre, pour que vous puissiez continuer à écrire.</translation>
     </message>
     <message>
         <source>In your language</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans votre langue</translation>
     </message>
     <message>
         <source>The texts change at once, those of this hint as well. Clicking what a hint points at takes you on, just as Next does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les textes changent aussitôt, ceux de cette bulle aussi. Un clic sur ce que désigne une bulle vous fait avancer, tout comme Suivant.</translation>
     </message>
     <message>
         <source>Open a page</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une page</translation>
     </message>
     <message>
         <source>Choose &quot;Walkthrough&quot; in the list. The last hint waits for that page to be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez « Visite guidée » dans la liste. La dernière bulle attend l&apos;ouverture de cette page.</translation>
     </message>
     <message>
         <source>How the tour works</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment fonctionne la visite</translation>
     </message>
     <message>
         <source>A walkthrough is a machine of named states. Here you see another one at work, and can drive it yourself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une visite guidée est une machine à états nommés. En voici une autre au travail, que vous pouvez conduire vous-même.</translation>
     </message>
 </context>
 <context>
     <name>Gallery::WalkthroughPage</name>
     <message>
         <source>One target</source>
-        <translation type="unfinished"></translation>
+        <translation>Une cible</translation>
     </message>
     <message>
         <source>Press the button, or Next.</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyez sur le bouton, ou sur Suivant.</translation>
     </message>
     <message>
         <source>Two targets</source>
-        <translation type="unfinished"></translation>
+        <translation>Deux cibles</translation>
     </message>
     <message>
         <source>Hide one with the switches: the frame follows. Hide both, and the hint goes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquez-en une avec les cases à cocher : le cadre suit. Masquez les deux, et la bulle disparaît.</translation>
     </message>
     <message>
         <source>A small tour of its own. Start it, hide its targets, or enter a state by double-clicking it: the lists show the machine&apos;s groups, and what each hint still waits for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une petite visite à part. Démarrez-la, masquez ses cibles ou entrez dans un état par un double clic : les listes montrent les groupes de la machine et ce que chaque bulle attend encore.</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Left lamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Lampe gauche</translation>
     </message>
     <message>
         <source>Right lamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Lampe droite</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe</translation>
     </message>
     <message>
         <source>Active state</source>
-        <translation type="unfinished"></translation>
+        <translation>État actif</translation>
     </message>
     <message>
         <source>Groups and states</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupes et états</translation>
     </message>
     <message>
         <source>Hint</source>
-        <translation type="unfinished"></translation>
+        <translation>Bulle</translation>
     </message>
     <message>
         <source>Unmet conditions</source>
-        <translation type="unfinished"></translation>
+        <translation>Conditions non remplies</translation>
     </message>
     <message>
         <source>Waits for</source>
-        <translation type="unfinished"></translation>
+        <translation>Attend</translation>
     </message>
     <message>
         <source>Hints</source>
-        <translation type="unfinished"></translation>
+        <translation>Bulles</translation>
     </message>
     <message>
         <source>Start the tour</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer la visite</translation>
     </message>
     <message>
         <source>Stop the tour</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter la visite</translation>
     </message>
     <message>
         <source>Hints enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Bulles activées</translation>
     </message>
     <message>
         <source>Save is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer est visible</translation>
     </message>
     <message>
         <source>Left lamp is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>La lampe gauche est visible</translation>
     </message>
     <message>
         <source>Right lamp is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>La lampe droite est visible</translation>
     </message>
     <message>
         <source>Hints avoid the list of hints</source>
-        <translation type="unfinished"></translation>
+        <translation>Les bulles évitent leur liste</translation>
     </message>
     <message>
         <source>entered %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 atteint</translation>
     </message>
 </context>
 <context>
     <name>Gallery::WidgetRendererPage</name>
     <message>
         <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les widgets de gauche sont dessinés dans l&apos;image de droite et découpés de leur fenêtre. Même découpés, ils répondent encore à la souris.</translation>
     </message>
     <message>
         <source>Compose</source>
-        <translation type="unfinished"></translation>
+        <translation>Composer</translation>
     </message>
     <message>
         <source>Give back</source>
-        <translation type="unfinished"></translation>
+        <translation>Restituer</translation>
     </message>
     <message>
         <source>Button</source>
-        <translation type="unfinished"></translation>
+        <translation>Bouton</translation>
     </message>
     <message>
         <source>Check box</source>
-        <translation type="unfinished"></translation>
+        <translation>Case à cocher</translation>
     </message>
 </context>
 </TS>

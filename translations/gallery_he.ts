@@ -5,892 +5,892 @@
     <name>Gallery</name>
     <message>
         <source>Advanced colour picker</source>
-        <translation type="unfinished"></translation>
+        <translation>בורר צבעים מתקדם</translation>
     </message>
     <message>
         <source>Combo boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>תיבות משולבות</translation>
     </message>
     <message>
         <source>Drop and drag</source>
-        <translation type="unfinished"></translation>
+        <translation>שחרור וגרירה</translation>
     </message>
     <message>
         <source>Event helpers</source>
-        <translation type="unfinished"></translation>
+        <translation>עזרי אירועים</translation>
     </message>
     <message>
         <source>Eyedropper</source>
-        <translation type="unfinished"></translation>
+        <translation>טפטפת</translation>
     </message>
     <message>
         <source>Formatting</source>
-        <translation type="unfinished"></translation>
+        <translation>עיצוב</translation>
     </message>
     <message>
         <source>Frame over a window</source>
-        <translation type="unfinished"></translation>
+        <translation>מסגרת מעל חלון</translation>
     </message>
     <message>
         <source>Labels and inputs</source>
-        <translation type="unfinished"></translation>
+        <translation>תוויות וקלט</translation>
     </message>
     <message>
         <source>Named palette</source>
-        <translation type="unfinished"></translation>
+        <translation>לוח צבעים בעלי שם</translation>
     </message>
     <message>
         <source>Pens and lines</source>
-        <translation type="unfinished"></translation>
+        <translation>עטים וקווים</translation>
     </message>
     <message>
         <source>Selection frames</source>
-        <translation type="unfinished"></translation>
+        <translation>מסגרות בחירה</translation>
     </message>
     <message>
         <source>Tiles and title bars</source>
-        <translation type="unfinished"></translation>
+        <translation>אריחים ושורות כותרת</translation>
     </message>
     <message>
         <source>Walkthrough</source>
-        <translation type="unfinished"></translation>
+        <translation>סיור מודרך</translation>
     </message>
     <message>
         <source>Widget renderer</source>
-        <translation type="unfinished"></translation>
+        <translation>ציור רכיבים</translation>
     </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
     <message>
         <source>Click a colour to open its popup; the note takes the new colour while you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>לחצו על צבע כדי לפתוח את החלון הקופץ שלו; הפתק מקבל את הצבע החדש בזמן הבחירה.</translation>
     </message>
     <message>
         <source>Buy milk, feed the cat</source>
-        <translation type="unfinished"></translation>
+        <translation>לקנות חלב, להאכיל את החתול</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>נייר</translation>
     </message>
     <message>
         <source>Ink</source>
-        <translation type="unfinished"></translation>
+        <translation>דיו</translation>
     </message>
     <message>
         <source>Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>מרקר</translation>
     </message>
     <message>
         <source>Drag a colour from the palette to one of the twelve slots above it. The slots are shared: open another picker and find the colour there.</source>
-        <translation type="unfinished"></translation>
+        <translation>גררו צבע מהלוח לאחד משנים־עשר התאים שמעליו. התאים משותפים: פתחו בורר אחר ותמצאו שם את הצבע.</translation>
     </message>
     <message>
         <source>Opacity of the marker</source>
-        <translation type="unfinished"></translation>
+        <translation>אטימות המרקר</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>פעיל</translation>
     </message>
     <message>
         <source>Random colours</source>
-        <translation type="unfinished"></translation>
+        <translation>צבעים אקראיים</translation>
     </message>
     <message>
         <source>A colour that is set by the program makes no signal.</source>
-        <translation type="unfinished"></translation>
+        <translation>צבע שהתוכנית קובעת אינו שולח אות.</translation>
     </message>
     <message>
         <source>Open popup here</source>
-        <translation type="unfinished"></translation>
+        <translation>פתיחת החלון הקופץ כאן</translation>
     </message>
 </context>
 <context>
     <name>Gallery::ComboBoxesPage</name>
     <message>
         <source>Combo boxes that are narrower than their items. Turn the wheel over the form, open the lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>תיבות משולבות צרות מהפריטים שלהן. סובבו את הגלגלת מעל הטופס, פתחו את הרשימות.</translation>
     </message>
     <message>
         <source>Narrow box</source>
-        <translation type="unfinished"></translation>
+        <translation>תיבה צרה</translation>
     </message>
     <message>
         <source>Elided text and wide popup</source>
-        <translation type="unfinished"></translation>
+        <translation>טקסט מקוצר ורשימה רחבה</translation>
     </message>
     <message>
         <source>Row %1</source>
-        <translation type="unfinished"></translation>
+        <translation>שורה %1</translation>
     </message>
     <message>
         <source>No wheel in a scrolling form</source>
-        <translation type="unfinished"></translation>
+        <translation>בלי גלגלת בטופס נגלל</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>ביטול</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>גזירה</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>העתקה</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>הדבקה</translation>
     </message>
     <message>
         <source>Box with separators</source>
-        <translation type="unfinished"></translation>
+        <translation>תיבה עם מפרידים</translation>
     </message>
     <message>
         <source>Separators</source>
-        <translation type="unfinished"></translation>
+        <translation>מפרידים</translation>
     </message>
     <message>
         <source>A preset with a rather long name</source>
-        <translation type="unfinished"></translation>
+        <translation>ערכה ששמה ארוך למדי</translation>
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>ערכות</translation>
     </message>
     <message>
         <source>Calm</source>
-        <translation type="unfinished"></translation>
+        <translation>רגוע</translation>
     </message>
     <message>
         <source>Bright</source>
-        <translation type="unfinished"></translation>
+        <translation>בהיר</translation>
     </message>
     <message>
         <source>Night</source>
-        <translation type="unfinished"></translation>
+        <translation>לילה</translation>
     </message>
     <message>
         <source>Preset panel</source>
-        <translation type="unfinished"></translation>
+        <translation>לוח ערכות</translation>
     </message>
     <message>
         <source>Wide popup</source>
-        <translation type="unfinished"></translation>
+        <translation>רשימה רחבה</translation>
     </message>
     <message>
         <source>Mouse wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>גלגלת העכבר</translation>
     </message>
     <message>
         <source>Elide text</source>
-        <translation type="unfinished"></translation>
+        <translation>קיצור הטקסט</translation>
     </message>
     <message>
         <source>Tool tip:</source>
-        <translation type="unfinished"></translation>
+        <translation>תיאור קופץ:</translation>
     </message>
     <message>
         <source>Styled separators</source>
-        <translation type="unfinished"></translation>
+        <translation>מפרידים מעוצבים</translation>
     </message>
     <message>
         <source>Preset icon</source>
-        <translation type="unfinished"></translation>
+        <translation>סמל הערכה</translation>
     </message>
     <message>
         <source>Short</source>
-        <translation type="unfinished"></translation>
+        <translation>קצר</translation>
     </message>
     <message>
         <source>An item whose text is much longer than the box</source>
-        <translation type="unfinished"></translation>
+        <translation>פריט שהטקסט שלו ארוך בהרבה מהתיבה</translation>
     </message>
     <message>
         <source>Another one that does not fit</source>
-        <translation type="unfinished"></translation>
+        <translation>עוד אחד שאינו נכנס</translation>
     </message>
 </context>
 <context>
     <name>Gallery::DropAndDragPage</name>
     <message>
         <source>Drop files from a file manager: one observer takes pictures, the other texts, and each hears of everything that is dropped. Drag the panel by any point, its button included: what was dragged is not clicked.</source>
-        <translation type="unfinished"></translation>
+        <translation>שחררו קבצים ממנהל הקבצים: צופה אחד לוקח תמונות, השני טקסטים, וכל אחד מהם שומע על כל מה ששוחרר. גררו את הלוח מכל נקודה, גם מהכפתור שלו: מה שנגרר אינו נלחץ.</translation>
     </message>
     <message>
         <source>Pictures are welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>תמונות יתקבלו בברכה</translation>
     </message>
     <message>
         <source>Texts are welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>טקסטים יתקבלו בברכה</translation>
     </message>
     <message>
         <source>Drop pictures or texts here</source>
-        <translation type="unfinished"></translation>
+        <translation>שחררו כאן תמונות או טקסטים</translation>
     </message>
     <message>
         <source>Drag me anywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>גררו אותי לכל מקום</translation>
     </message>
     <message>
         <source>Click me</source>
-        <translation type="unfinished"></translation>
+        <translation>לחצו עליי</translation>
     </message>
 </context>
 <context>
     <name>Gallery::EventHelpersPage</name>
     <message>
         <source>Scribble on the pad: the lamps below show the signals that the helpers make of its events. Without propagation the signals still come, but the pad itself sees no mouse any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>שרבטו על הלוח: הנורות שמתחתיו מציגות את האותות שהעזרים יוצרים מהאירועים שלו. בלי העברה האותות עדיין מגיעים, אבל הלוח עצמו כבר אינו רואה את העכבר.</translation>
     </message>
     <message>
         <source>Scribble here</source>
-        <translation type="unfinished"></translation>
+        <translation>שרבטו כאן</translation>
     </message>
     <message>
         <source>Events go on to the pad</source>
-        <translation type="unfinished"></translation>
+        <translation>האירועים מגיעים ללוח</translation>
     </message>
     <message>
         <source>Hover events</source>
-        <translation type="unfinished"></translation>
+        <translation>אירועי ריחוף</translation>
     </message>
     <message>
         <source>Moves without a button</source>
-        <translation type="unfinished"></translation>
+        <translation>תנועות בלי כפתור</translation>
     </message>
     <message>
         <source>Wipe the pad</source>
-        <translation type="unfinished"></translation>
+        <translation>ניקוי הלוח</translation>
     </message>
     <message>
         <source>Drop it here</source>
-        <translation type="unfinished"></translation>
+        <translation>שחררו אותו כאן</translation>
     </message>
     <message>
         <source>Drag this text</source>
-        <translation type="unfinished"></translation>
+        <translation>גררו את הטקסט הזה</translation>
     </message>
     <message>
         <source>Drop field is guarded</source>
-        <translation type="unfinished"></translation>
+        <translation>אזור השחרור מוגן</translation>
     </message>
     <message>
         <source>Window stays on top</source>
-        <translation type="unfinished"></translation>
+        <translation>החלון נשאר למעלה</translation>
     </message>
 </context>
 <context>
     <name>Gallery::EyedropperPage</name>
     <message>
         <source>Press the button, then click into the picture: the button takes the colour under the cursor. Any key picks as well; a click elsewhere ends it without a colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>לחצו על הכפתור ואז בתוך התמונה: הכפתור מקבל את הצבע שמתחת לסמן. גם כל מקש בוחר; לחיצה במקום אחר מסיימת בלי צבע.</translation>
     </message>
     <message>
         <source>Pick a colour from the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>בחירת צבע מהתמונה</translation>
     </message>
     <message>
         <source>Button shows the colour</source>
-        <translation type="unfinished"></translation>
+        <translation>הכפתור מציג את הצבע</translation>
     </message>
     <message>
         <source>Picture is the target</source>
-        <translation type="unfinished"></translation>
+        <translation>התמונה היא היעד</translation>
     </message>
 </context>
 <context>
     <name>Gallery::FormattingPage</name>
     <message>
         <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>עצבו את הדוגמה בשתי השורות. הסמלים שלהן באים מגיליון הסגנונות של הדף, שבוחר את הכפתורים לפי המאפיין „styleTag”.</translation>
     </message>
     <message>
         <source>The quick brown fox jumps over the lazy dog, and the dog, being lazy, lets it jump as often as it likes.</source>
-        <translation type="unfinished"></translation>
+        <translation>השועל החום הזריז קופץ מעל הכלב העצלן, והכלב, מרוב עצלות, נותן לו לקפוץ ככל שירצה.</translation>
     </message>
     <message>
         <source>Plain font</source>
-        <translation type="unfinished"></translation>
+        <translation>גופן רגיל</translation>
     </message>
     <message>
         <source>The program sets a font: a signal for each toggle that changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>התוכנית קובעת גופן: אות לכל מתג שמשתנה.</translation>
     </message>
     <message>
         <source>Set to left</source>
-        <translation type="unfinished"></translation>
+        <translation>קביעה לשמאל</translation>
     </message>
     <message>
         <source>The program checks a button: no signal, and the sample stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>התוכנית מסמנת כפתור: אין אות, והדוגמה נשארת כפי שהיא.</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>פעיל</translation>
     </message>
 </context>
 <context>
     <name>Gallery::FrameOverWindowPage</name>
     <message>
         <source>The window below goes on living while the frame lies over it. In edit mode the mouse moves the frame; otherwise it reaches the window.</source>
-        <translation type="unfinished"></translation>
+        <translation>החלון שלמטה ממשיך לחיות בזמן שהמסגרת מונחת עליו. במצב עריכה העכבר מזיז את המסגרת; אחרת הוא מגיע אל החלון.</translation>
     </message>
     <message>
         <source>Type here while edit mode is off</source>
-        <translation type="unfinished"></translation>
+        <translation>הקלידו כאן כשמצב העריכה כבוי</translation>
     </message>
     <message>
         <source>Press here while edit mode is off</source>
-        <translation type="unfinished"></translation>
+        <translation>לחצו כאן כשמצב העריכה כבוי</translation>
     </message>
     <message>
         <source>A window with its own life</source>
-        <translation type="unfinished"></translation>
+        <translation>חלון עם חיים משלו</translation>
     </message>
     <message>
         <source>From %1 %, %2 %: %3 % wide, %4 % high</source>
         <comment>position and size of the frame</comment>
-        <translation type="unfinished"></translation>
+        <translation>מ־%1 %, %2 %: רוחב %3 %, גובה %4 %</translation>
     </message>
     <message>
         <source>Edit mode</source>
-        <translation type="unfinished"></translation>
+        <translation>מצב עריכה</translation>
     </message>
     <message>
         <source>Keep the ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>שמירה על היחס</translation>
     </message>
     <message>
         <source>Work rect</source>
-        <translation type="unfinished"></translation>
+        <translation>שטח העבודה</translation>
     </message>
     <message>
         <source>Veil</source>
-        <translation type="unfinished"></translation>
+        <translation>מסך</translation>
     </message>
 </context>
 <context>
     <name>Gallery::GalleryHint</name>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>הבא</translation>
     </message>
     <message>
         <source>Not now</source>
-        <translation type="unfinished"></translation>
+        <translation>לא עכשיו</translation>
     </message>
     <message>
         <source>Never again</source>
-        <translation type="unfinished"></translation>
+        <translation>לעולם לא</translation>
     </message>
 </context>
 <context>
     <name>Gallery::LabelsAndInputsPage</name>
     <message>
         <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>גררו את הידית כדי להצר את העמודה שלידה: התוויות ושדה הטקסט מקצרים את הטקסטים שלהם ומציגים אותם במלואם בתיאור קופץ. השדה מציג את כולו בזמן העריכה.</translation>
     </message>
     <message>
         <source>A file name that is much too long for a column as narrow as this one.txt</source>
-        <translation type="unfinished"></translation>
+        <translation>שם קובץ ארוך מדי בשביל עמודה צרה כמו זאת.txt</translation>
     </message>
     <message>
         <source>Mixed directions: %1, elided in order</source>
-        <translation type="unfinished"></translation>
+        <translation>כיוונים מעורבים: %1, מקוצר לפי הסדר</translation>
     </message>
     <message>
         <source>Short</source>
-        <translation type="unfinished"></translation>
+        <translation>קצר</translation>
     </message>
     <message>
         <source>Drag the handle at the edge of this field.</source>
-        <translation type="unfinished"></translation>
+        <translation>גררו את הידית שבקצה השדה הזה.</translation>
     </message>
     <message>
         <source>Press here, with any button</source>
-        <translation type="unfinished"></translation>
+        <translation>לחצו כאן, בכל כפתור</translation>
     </message>
     <message>
         <source>Clipped text</source>
-        <translation type="unfinished"></translation>
+        <translation>טקסט מקוצר</translation>
     </message>
     <message>
         <source>A text that is shown whole while you edit it, and elided while you do not</source>
-        <translation type="unfinished"></translation>
+        <translation>טקסט שמוצג במלואו בזמן העריכה ומקוצר בשאר הזמן</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>הערות</translation>
     </message>
     <message>
         <source>Labels report presses</source>
-        <translation type="unfinished"></translation>
+        <translation>התוויות מדווחות על לחיצות</translation>
     </message>
     <message>
         <source>Labels elide their texts</source>
-        <translation type="unfinished"></translation>
+        <translation>התוויות מקצרות את הטקסטים</translation>
     </message>
     <message>
         <source>at the end</source>
-        <translation type="unfinished"></translation>
+        <translation>בסוף</translation>
     </message>
     <message>
         <source>in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>באמצע</translation>
     </message>
     <message>
         <source>at the beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>בהתחלה</translation>
     </message>
     <message>
         <source>Elide</source>
-        <translation type="unfinished"></translation>
+        <translation>קיצור</translation>
     </message>
     <message>
         <source>What do you think of it?</source>
-        <translation type="unfinished"></translation>
+        <translation>מה דעתכם על זה?</translation>
     </message>
     <message>
         <source>Placeholder</source>
-        <translation type="unfinished"></translation>
+        <translation>טקסט רמז</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>מספר</translation>
     </message>
     <message>
         <source>Digits at most</source>
-        <translation type="unfinished"></translation>
+        <translation>ספרות לכל היותר</translation>
     </message>
 </context>
 <context>
     <name>Gallery::MainWindow</name>
     <message>
         <source>KQtUi gallery</source>
-        <translation type="unfinished"></translation>
+        <translation>הגלריה של KQtUi</translation>
     </message>
     <message>
         <source>&amp;Find a page</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;חיפוש דף</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;יציאה</translation>
     </message>
     <message>
         <source>&amp;Dark palette</source>
-        <translation type="unfinished"></translation>
+        <translation>צבעים &amp;כהים</translation>
     </message>
     <message>
         <source>&amp;Right to left</source>
-        <translation type="unfinished"></translation>
+        <translation>מימין ל&amp;שמאל</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;קובץ</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;תצוגה</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;שפה</translation>
     </message>
     <message>
         <source>Language: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>שפה: %1</translation>
     </message>
 </context>
 <context>
     <name>Gallery::NamedPalettePage</name>
     <message>
         <source>Click the button: a default colour, forty named colours, and a dialog behind &quot;More...&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>לחצו על הכפתור: צבע ברירת מחדל, ארבעים צבעים בעלי שם, ותיבת דו־שיח מאחורי „עוד...”.</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>צבע</translation>
     </message>
     <message>
         <source>While its popup is open the picker&apos;s property &quot;pressed&quot; is true: the page&apos;s style sheet gives it a thick border then.</source>
-        <translation type="unfinished"></translation>
+        <translation>כשהחלון הקופץ פתוח, המאפיין „pressed” של הבורר הוא אמת: גיליון הסגנונות של הדף נותן לו אז גבול עבה.</translation>
     </message>
     <message>
         <source>Colorized</source>
-        <translation type="unfinished"></translation>
+        <translation>צבוע</translation>
     </message>
     <message>
         <source>Dark popup</source>
-        <translation type="unfinished"></translation>
+        <translation>חלון קופץ כהה</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>פעיל</translation>
     </message>
     <message>
         <source>Make it the default</source>
-        <translation type="unfinished"></translation>
+        <translation>קביעה כברירת מחדל</translation>
     </message>
     <message>
         <source>The popup&apos;s &quot;Default&quot; button chooses this colour from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>הכפתור „ברירת מחדל” של החלון הקופץ בוחר מעתה את הצבע הזה.</translation>
     </message>
 </context>
 <context>
     <name>Gallery::Page</name>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>מאפיינים</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>ניקוי</translation>
     </message>
     <message>
         <source>Signals</source>
-        <translation type="unfinished"></translation>
+        <translation>אותות</translation>
     </message>
 </context>
 <context>
     <name>Gallery::PageList</name>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>סינון</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>דפים</translation>
     </message>
 </context>
 <context>
     <name>Gallery::PensAndLinesPage</name>
     <message>
         <source>Pens, lines and opacity: each group draws what its boxes say.</source>
-        <translation type="unfinished"></translation>
+        <translation>עטים, קווים ואטימות: כל קבוצה מציירת את מה שהתיבות שלה אומרות.</translation>
     </message>
     <message>
         <source>Pen picker</source>
-        <translation type="unfinished"></translation>
+        <translation>בורר עט</translation>
     </message>
     <message>
         <source>Line style</source>
-        <translation type="unfinished"></translation>
+        <translation>סגנון קו</translation>
     </message>
     <message>
         <source>Line width</source>
-        <translation type="unfinished"></translation>
+        <translation>עובי קו</translation>
     </message>
     <message>
         <source>Line style and line width</source>
-        <translation type="unfinished"></translation>
+        <translation>סגנון ועובי הקו</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>אטימות</translation>
     </message>
     <message>
         <source>Opacity adapter</source>
-        <translation type="unfinished"></translation>
+        <translation>מתאם אטימות</translation>
     </message>
     <message>
         <source>Value: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ערך: %1</translation>
     </message>
     <message>
         <source>Slider with a zero tick</source>
-        <translation type="unfinished"></translation>
+        <translation>מחוון עם סימון האפס</translation>
     </message>
     <message>
         <source>Coloured tick</source>
-        <translation type="unfinished"></translation>
+        <translation>סימון צבעוני</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>פעיל</translation>
     </message>
 </context>
 <context>
     <name>Gallery::SelectionFramesPage</name>
     <message>
         <source>Drag the frames, their corners and their sides. The small picture is what the frames are rendered to, with its alpha.</source>
-        <translation type="unfinished"></translation>
+        <translation>גררו את המסגרות, את הפינות ואת הצדדים שלהן. התמונה הקטנה היא תוצאת הציור של המסגרות, עם ערוץ האלפא שלה.</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>תמונה</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>טקסט</translation>
     </message>
     <message>
         <source>Region</source>
-        <translation type="unfinished"></translation>
+        <translation>אזור</translation>
     </message>
     <message>
         <source>Holiday by the sea</source>
-        <translation type="unfinished"></translation>
+        <translation>חופשה ליד הים</translation>
     </message>
     <message>
         <source>Picture keeps its ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>התמונה שומרת על היחס</translation>
     </message>
     <message>
         <source>Region keeps its ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>האזור שומר על היחס</translation>
     </message>
     <message>
         <source>Work rect</source>
-        <translation type="unfinished"></translation>
+        <translation>שטח העבודה</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>שקיפות</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>מילוי</translation>
     </message>
     <message>
         <source>Outline</source>
-        <translation type="unfinished"></translation>
+        <translation>קו מתאר</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>גופן</translation>
     </message>
 </context>
 <context>
     <name>Gallery::SignalLog</name>
     <message>
         <source>Signals appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>כאן יופיעו אותות.</translation>
     </message>
 </context>
 <context>
     <name>Gallery::TilesPage</name>
     <message>
         <source>Tiles with a star, a play button and a duration over a picture; and a panel whose title bar can be dragged, detached and closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>אריחים עם כוכב, כפתור ניגון ומשך מעל תמונה; ולוח שאפשר לגרור, לנתק ולסגור את שורת הכותרת שלו.</translation>
     </message>
     <message>
         <source>Sunrise</source>
-        <translation type="unfinished"></translation>
+        <translation>זריחה</translation>
     </message>
     <message>
         <source>Noon</source>
-        <translation type="unfinished"></translation>
+        <translation>צהריים</translation>
     </message>
     <message>
         <source>Sunset</source>
-        <translation type="unfinished"></translation>
+        <translation>שקיעה</translation>
     </message>
     <message>
         <source>Night</source>
-        <translation type="unfinished"></translation>
+        <translation>לילה</translation>
     </message>
     <message>
         <source>Pin playlist</source>
-        <translation type="unfinished"></translation>
+        <translation>נעיצת רשימת ההשמעה</translation>
     </message>
     <message>
         <source>Unpin playlist</source>
-        <translation type="unfinished"></translation>
+        <translation>ביטול נעיצת רשימת ההשמעה</translation>
     </message>
     <message>
         <source>Stars</source>
-        <translation type="unfinished"></translation>
+        <translation>כוכבים</translation>
     </message>
     <message>
         <source>Play buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>כפתורי ניגון</translation>
     </message>
     <message>
         <source>Clips can be played</source>
-        <translation type="unfinished"></translation>
+        <translation>אפשר לנגן את הקטעים</translation>
     </message>
     <message>
         <source>Styled as floating</source>
-        <translation type="unfinished"></translation>
+        <translation>מעוצב כלוח צף</translation>
     </message>
     <message>
         <source>Show the panel</source>
-        <translation type="unfinished"></translation>
+        <translation>הצגת הלוח</translation>
     </message>
 </context>
 <context>
     <name>Gallery::Tour</name>
     <message>
         <source>Welcome to the gallery</source>
-        <translation type="unfinished"></translation>
+        <translation>ברוכים הבאים לגלריה</translation>
     </message>
     <message>
         <source>Every family of components has a page of its own, and all of them are alive. The tour shows you around in a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>לכל משפחת רכיבים דף משלה, וכולם חיים. הסיור מראה לכם הכול בדקה.</translation>
     </message>
     <message>
         <source>Find a page</source>
-        <translation type="unfinished"></translation>
+        <translation>חיפוש דף</translation>
     </message>
     <message>
         <source>Type part of a title. The arrow keys move through the pages that are left.</source>
-        <translation type="unfinished"></translation>
+        <translation>הקלידו חלק מכותרת. מקשי החיצים עוברים בין הדפים שנשארו.</translation>
     </message>
     <message>
         <source>Dark, and from right to left</source>
-        <translation type="unfinished"></translation>
+        <translation>כהה, ומימין לשמאל</translation>
     </message>
     <message>
         <source>These two switches are one target: the frame goes round both. This hint stays clear of the filter, so that you can go on typing.</source>
-        <translation type="unfinished"></translation>
+        <translation>שני המתגים האלה הם יעד אחד: המסגרת מקיפה את שניהם. הרמז הזה אינו מסתיר את שדה הסינון, כדי שתוכלו להמשיך להקליד.</translation>
     </message>
     <message>
         <source>In your language</source>
-        <translation type="unfinished"></translation>
+        <translation>בשפה שלכם</translation>
     </message>
     <message>
         <source>The texts change at once, those of this hint as well. Clicking what a hint points at takes you on, just as Next does.</source>
-        <translation type="unfinished"></translation>
+        <translation>הטקסטים משתנים מיד, גם אלה של הרמז הזה. לחיצה על מה שהרמז מצביע עליו מקדמת אתכם, בדיוק כמו הבא.</translation>
     </message>
     <message>
         <source>Open a page</source>
-        <translation type="unfinished"></translation>
+        <translation>פתיחת דף</translation>
     </message>
     <message>
         <source>Choose &quot;Walkthrough&quot; in the list. The last hint waits for that page to be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>בחרו „סיור מודרך” ברשימה. הרמז האחרון ממתין לפתיחת הדף הזה.</translation>
     </message>
     <message>
         <source>How the tour works</source>
-        <translation type="unfinished"></translation>
+        <translation>איך הסיור עובד</translation>
     </message>
     <message>
         <source>A walkthrough is a machine of named states. Here you see another one at work, and can drive it yourself.</source>
-        <translation type="unfinished"></translation>
+        <translation>סיור מודרך הוא מכונה של מצבים בעלי שם. כאן תראו אחת אחרת בפעולה, ותוכלו לנהוג בה בעצמכם.</translation>
     </message>
 </context>
 <context>
     <name>Gallery::WalkthroughPage</name>
     <message>
         <source>One target</source>
-        <translation type="unfinished"></translation>
+        <translation>יעד אחד</translation>
     </message>
     <message>
         <source>Press the button, or Next.</source>
-        <translation type="unfinished"></translation>
+        <translation>לחצו על הכפתור, או על הבא.</translation>
     </message>
     <message>
         <source>Two targets</source>
-        <translation type="unfinished"></translation>
+        <translation>שני יעדים</translation>
     </message>
     <message>
         <source>Hide one with the switches: the frame follows. Hide both, and the hint goes.</source>
-        <translation type="unfinished"></translation>
+        <translation>הסתירו אחד מהם במתגים: המסגרת עוקבת. הסתירו את שניהם, והרמז נעלם.</translation>
     </message>
     <message>
         <source>A small tour of its own. Start it, hide its targets, or enter a state by double-clicking it: the lists show the machine&apos;s groups, and what each hint still waits for.</source>
-        <translation type="unfinished"></translation>
+        <translation>סיור קטן משלו. התחילו אותו, הסתירו את יעדיו, או היכנסו למצב בלחיצה כפולה: הרשימות מציגות את קבוצות המכונה ואת מה שכל רמז עוד ממתין לו.</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>שמירה</translation>
     </message>
     <message>
         <source>Left lamp</source>
-        <translation type="unfinished"></translation>
+        <translation>נורה שמאלית</translation>
     </message>
     <message>
         <source>Right lamp</source>
-        <translation type="unfinished"></translation>
+        <translation>נורה ימנית</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>קבוצה</translation>
     </message>
     <message>
         <source>Active state</source>
-        <translation type="unfinished"></translation>
+        <translation>מצב פעיל</translation>
     </message>
     <message>
         <source>Groups and states</source>
-        <translation type="unfinished"></translation>
+        <translation>קבוצות ומצבים</translation>
     </message>
     <message>
         <source>Hint</source>
-        <translation type="unfinished"></translation>
+        <translation>רמז</translation>
     </message>
     <message>
         <source>Unmet conditions</source>
-        <translation type="unfinished"></translation>
+        <translation>תנאים שלא התקיימו</translation>
     </message>
     <message>
         <source>Waits for</source>
-        <translation type="unfinished"></translation>
+        <translation>ממתין ל</translation>
     </message>
     <message>
         <source>Hints</source>
-        <translation type="unfinished"></translation>
+        <translation>רמזים</translation>
     </message>
     <message>
         <source>Start the tour</source>
-        <translation type="unfinished"></translation>
+        <translation>התחלת הסיור</translation>
     </message>
     <message>
         <source>Stop the tour</source>
-        <translation type="unfinished"></translation>
+        <translation>עצירת הסיור</translation>
     </message>
     <message>
         <source>Hints enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>הרמזים פעילים</translation>
     </message>
     <message>
         <source>Save is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>כפתור השמירה מוצג</translation>
     </message>
     <message>
         <source>Left lamp is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>הנורה השמאלית מוצגת</translation>
     </message>
     <message>
         <source>Right lamp is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>הנורה הימנית מוצגת</translation>
     </message>
     <message>
         <source>Hints avoid the list of hints</source>
-        <translation type="unfinished"></translation>
+        <translation>הרמזים נמנעים מהרשימה שלהם</translation>
     </message>
     <message>
         <source>entered %1</source>
-        <translation type="unfinished"></translation>
+        <translation>כניסה אל %1</translation>
     </message>
 </context>
 <context>
     <name>Gallery::WidgetRendererPage</name>
     <message>
         <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
-        <translation type="unfinished"></translation>
+        <translation>הרכיבים שמשמאל מצוירים בתמונה שמימין ונגזרים מהחלון שלהם. גם גזורים הם עדיין מגיבים לעכבר.</translation>
     </message>
     <message>
         <source>Compose</source>
-        <translation type="unfinished"></translation>
+        <translation>הרכבה</translation>
     </message>
     <message>
         <source>Give back</source>
-        <translation type="unfinished"></translation>
+        <translation>החזרה</translation>
     </message>
     <message>
         <source>Button</source>
-        <translation type="unfinished"></translation>
+        <translation>כפתור</translation>
     </message>
     <message>
         <source>Check box</source>
-        <translation type="unfinished"></translation>
+        <translation>תיבת סימון</translation>
     </message>
 </context>
 </TS>

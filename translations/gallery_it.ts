@@ -5,892 +5,892 @@
     <name>Gallery</name>
     <message>
         <source>Advanced colour picker</source>
-        <translation type="unfinished"></translation>
+        <translation>Selettore di colore avanzato</translation>
     </message>
     <message>
         <source>Combo boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>Caselle combinate</translation>
     </message>
     <message>
         <source>Drop and drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Rilascio e trascinamento</translation>
     </message>
     <message>
         <source>Event helpers</source>
-        <translation type="unfinished"></translation>
+        <translation>Aiuti per gli eventi</translation>
     </message>
     <message>
         <source>Eyedropper</source>
-        <translation type="unfinished"></translation>
+        <translation>Contagocce</translation>
     </message>
     <message>
         <source>Formatting</source>
-        <translation type="unfinished"></translation>
+        <translation>Formattazione</translation>
     </message>
     <message>
         <source>Frame over a window</source>
-        <translation type="unfinished"></translation>
+        <translation>Cornice su una finestra</translation>
     </message>
     <message>
         <source>Labels and inputs</source>
-        <translation type="unfinished"></translation>
+        <translation>Etichette e campi</translation>
     </message>
     <message>
         <source>Named palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Tavolozza con nomi</translation>
     </message>
     <message>
         <source>Pens and lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Penne e linee</translation>
     </message>
     <message>
         <source>Selection frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Cornici di selezione</translation>
     </message>
     <message>
         <source>Tiles and title bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Riquadri e barre del titolo</translation>
     </message>
     <message>
         <source>Walkthrough</source>
-        <translation type="unfinished"></translation>
+        <translation>Visita guidata</translation>
     </message>
     <message>
         <source>Widget renderer</source>
-        <translation type="unfinished"></translation>
+        <translation>Rendering dei widget</translation>
     </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
     <message>
         <source>Click a colour to open its popup; the note takes the new colour while you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fai clic su un colore per aprire la sua finestra; il biglietto prende il nuovo colore mentre scegli.</translation>
     </message>
     <message>
         <source>Buy milk, feed the cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprare il latte, dar da mangiare al gatto</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Carta</translation>
     </message>
     <message>
         <source>Ink</source>
-        <translation type="unfinished"></translation>
+        <translation>Inchiostro</translation>
     </message>
     <message>
         <source>Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Evidenziatore</translation>
     </message>
     <message>
         <source>Drag a colour from the palette to one of the twelve slots above it. The slots are shared: open another picker and find the colour there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trascina un colore dalla tavolozza su una delle dodici caselle sopra di essa. Le caselle sono condivise: apri un altro selettore e troverai lì il colore.</translation>
     </message>
     <message>
         <source>Opacity of the marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacità dell&apos;evidenziatore</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Attivo</translation>
     </message>
     <message>
         <source>Random colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Colori casuali</translation>
     </message>
     <message>
         <source>A colour that is set by the program makes no signal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un colore impostato dal programma non emette alcun segnale.</translation>
     </message>
     <message>
         <source>Open popup here</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri la finestra qui</translation>
     </message>
 </context>
 <context>
     <name>Gallery::ComboBoxesPage</name>
     <message>
         <source>Combo boxes that are narrower than their items. Turn the wheel over the form, open the lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Caselle combinate più strette delle loro voci. Gira la rotellina sul modulo, apri gli elenchi.</translation>
     </message>
     <message>
         <source>Narrow box</source>
-        <translation type="unfinished"></translation>
+        <translation>Casella stretta</translation>
     </message>
     <message>
         <source>Elided text and wide popup</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo abbreviato ed elenco largo</translation>
     </message>
     <message>
         <source>Row %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Riga %1</translation>
     </message>
     <message>
         <source>No wheel in a scrolling form</source>
-        <translation type="unfinished"></translation>
+        <translation>Niente rotellina in un modulo a scorrimento</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Taglia</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Incolla</translation>
     </message>
     <message>
         <source>Box with separators</source>
-        <translation type="unfinished"></translation>
+        <translation>Casella con separatori</translation>
     </message>
     <message>
         <source>Separators</source>
-        <translation type="unfinished"></translation>
+        <translation>Separatori</translation>
     </message>
     <message>
         <source>A preset with a rather long name</source>
-        <translation type="unfinished"></translation>
+        <translation>Una preimpostazione dal nome piuttosto lungo</translation>
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Preimpostazioni</translation>
     </message>
     <message>
         <source>Calm</source>
-        <translation type="unfinished"></translation>
+        <translation>Calmo</translation>
     </message>
     <message>
         <source>Bright</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminoso</translation>
     </message>
     <message>
         <source>Night</source>
-        <translation type="unfinished"></translation>
+        <translation>Notte</translation>
     </message>
     <message>
         <source>Preset panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Pannello delle preimpostazioni</translation>
     </message>
     <message>
         <source>Wide popup</source>
-        <translation type="unfinished"></translation>
+        <translation>Elenco largo</translation>
     </message>
     <message>
         <source>Mouse wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotellina del mouse</translation>
     </message>
     <message>
         <source>Elide text</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrevia il testo</translation>
     </message>
     <message>
         <source>Tool tip:</source>
-        <translation type="unfinished"></translation>
+        <translation>Suggerimento:</translation>
     </message>
     <message>
         <source>Styled separators</source>
-        <translation type="unfinished"></translation>
+        <translation>Separatori con stile</translation>
     </message>
     <message>
         <source>Preset icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Icona della preimpostazione</translation>
     </message>
     <message>
         <source>Short</source>
-        <translation type="unfinished"></translation>
+        <translation>Breve</translation>
     </message>
     <message>
         <source>An item whose text is much longer than the box</source>
-        <translation type="unfinished"></translation>
+        <translation>Una voce il cui testo è molto più lungo della casella</translation>
     </message>
     <message>
         <source>Another one that does not fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Un&apos;altra che non ci sta</translation>
     </message>
 </context>
 <context>
     <name>Gallery::DropAndDragPage</name>
     <message>
         <source>Drop files from a file manager: one observer takes pictures, the other texts, and each hears of everything that is dropped. Drag the panel by any point, its button included: what was dragged is not clicked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rilascia dei file da un gestore di file: un osservatore prende le immagini, l&apos;altro i testi, e ciascuno viene a sapere di tutto ciò che è rilasciato. Trascina il pannello da qualsiasi punto, pulsante compreso: ciò che è stato trascinato non viene premuto.</translation>
     </message>
     <message>
         <source>Pictures are welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Le immagini sono benvenute</translation>
     </message>
     <message>
         <source>Texts are welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>I testi sono benvenuti</translation>
     </message>
     <message>
         <source>Drop pictures or texts here</source>
-        <translation type="unfinished"></translation>
+        <translation>Rilascia qui immagini o testi</translation>
     </message>
     <message>
         <source>Drag me anywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Trascinami da dove vuoi</translation>
     </message>
     <message>
         <source>Click me</source>
-        <translation type="unfinished"></translation>
+        <translation>Fai clic su di me</translation>
     </message>
 </context>
 <context>
     <name>Gallery::EventHelpersPage</name>
     <message>
         <source>Scribble on the pad: the lamps below show the signals that the helpers make of its events. Without propagation the signals still come, but the pad itself sees no mouse any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scarabocchia sul blocco: le luci qui sotto mostrano i segnali che gli aiuti ricavano dai suoi eventi. Senza propagazione i segnali arrivano ancora, ma il blocco stesso non vede più il mouse.</translation>
     </message>
     <message>
         <source>Scribble here</source>
-        <translation type="unfinished"></translation>
+        <translation>Scarabocchia qui</translation>
     </message>
     <message>
         <source>Events go on to the pad</source>
-        <translation type="unfinished"></translation>
+        <translation>Gli eventi arrivano al blocco</translation>
     </message>
     <message>
         <source>Hover events</source>
-        <translation type="unfinished"></translation>
+        <translation>Eventi di passaggio</translation>
     </message>
     <message>
         <source>Moves without a button</source>
-        <translation type="unfinished"></translation>
+        <translation>Movimenti senza pulsante</translation>
     </message>
     <message>
         <source>Wipe the pad</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulisci il blocco</translation>
     </message>
     <message>
         <source>Drop it here</source>
-        <translation type="unfinished"></translation>
+        <translation>Rilascialo qui</translation>
     </message>
     <message>
         <source>Drag this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Trascina questo testo</translation>
     </message>
     <message>
         <source>Drop field is guarded</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;area di rilascio è protetta</translation>
     </message>
     <message>
         <source>Window stays on top</source>
-        <translation type="unfinished"></translation>
+        <translation>La finestra resta in primo piano</translation>
     </message>
 </context>
 <context>
     <name>Gallery::EyedropperPage</name>
     <message>
         <source>Press the button, then click into the picture: the button takes the colour under the cursor. Any key picks as well; a click elsewhere ends it without a colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>Premi il pulsante, poi fai clic nell&apos;immagine: il pulsante prende il colore sotto il cursore. Va bene anche un tasto qualsiasi; un clic altrove termina senza colore.</translation>
     </message>
     <message>
         <source>Pick a colour from the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Preleva un colore dall&apos;immagine</translation>
     </message>
     <message>
         <source>Button shows the colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Il pulsante mostra il colore</translation>
     </message>
     <message>
         <source>Picture is the target</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;immagine è la destinazione</translation>
     </message>
 </context>
 <context>
     <name>Gallery::FormattingPage</name>
     <message>
         <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Formatta l&apos;esempio con le due barre. Le loro icone vengono dal foglio di stile della pagina, che seleziona i pulsanti in base alla proprietà «styleTag».</translation>
     </message>
     <message>
         <source>The quick brown fox jumps over the lazy dog, and the dog, being lazy, lets it jump as often as it likes.</source>
-        <translation type="unfinished"></translation>
+        <translation>La veloce volpe marrone salta sopra il cane pigro, e il cane, da pigro, la lascia saltare quante volte vuole.</translation>
     </message>
     <message>
         <source>Plain font</source>
-        <translation type="unfinished"></translation>
+        <translation>Carattere semplice</translation>
     </message>
     <message>
         <source>The program sets a font: a signal for each toggle that changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il programma imposta un carattere: un segnale per ogni pulsante che cambia.</translation>
     </message>
     <message>
         <source>Set to left</source>
-        <translation type="unfinished"></translation>
+        <translation>Imposta a sinistra</translation>
     </message>
     <message>
         <source>The program checks a button: no signal, and the sample stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il programma seleziona un pulsante: nessun segnale, e l&apos;esempio resta com&apos;è.</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Attivo</translation>
     </message>
 </context>
 <context>
     <name>Gallery::FrameOverWindowPage</name>
     <message>
         <source>The window below goes on living while the frame lies over it. In edit mode the mouse moves the frame; otherwise it reaches the window.</source>
-        <translation type="unfinished"></translation>
+        <translation>La finestra sottostante continua a vivere mentre la cornice la copre. In modalità modifica il mouse sposta la cornice; altrimenti raggiunge la finestra.</translation>
     </message>
     <message>
         <source>Type here while edit mode is off</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrivi qui fuori dalla modalità modifica</translation>
     </message>
     <message>
         <source>Press here while edit mode is off</source>
-        <translation type="unfinished"></translation>
+        <translation>Premi qui fuori dalla modalità modifica</translation>
     </message>
     <message>
         <source>A window with its own life</source>
-        <translation type="unfinished"></translation>
+        <translation>Una finestra con vita propria</translation>
     </message>
     <message>
         <source>From %1 %, %2 %: %3 % wide, %4 % high</source>
         <comment>position and size of the frame</comment>
-        <translation type="unfinished"></translation>
+        <translation>Da %1 %, %2 %: larga %3 %, alta %4 %</translation>
     </message>
     <message>
         <source>Edit mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modalità modifica</translation>
     </message>
     <message>
         <source>Keep the ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantieni le proporzioni</translation>
     </message>
     <message>
         <source>Work rect</source>
-        <translation type="unfinished"></translation>
+        <translation>Area di lavoro</translation>
     </message>
     <message>
         <source>Veil</source>
-        <translation type="unfinished"></translation>
+        <translation>Velo</translation>
     </message>
 </context>
 <context>
     <name>Gallery::GalleryHint</name>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Avanti</translation>
     </message>
     <message>
         <source>Not now</source>
-        <translation type="unfinished"></translation>
+        <translation>Non ora</translation>
     </message>
     <message>
         <source>Never again</source>
-        <translation type="unfinished"></translation>
+        <translation>Mai più</translation>
     </message>
 </context>
 <context>
     <name>Gallery::LabelsAndInputsPage</name>
     <message>
         <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trascina la maniglia per stringere la colonna alla sua sinistra: le etichette e il campo di testo abbreviano i loro testi e li mostrano per intero nei suggerimenti. Il campo lo mostra tutto durante la modifica.</translation>
     </message>
     <message>
         <source>A file name that is much too long for a column as narrow as this one.txt</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nome di file troppo lungo per una colonna stretta come questa.txt</translation>
     </message>
     <message>
         <source>Mixed directions: %1, elided in order</source>
-        <translation type="unfinished"></translation>
+        <translation>Direzioni miste: %1, abbreviato in ordine</translation>
     </message>
     <message>
         <source>Short</source>
-        <translation type="unfinished"></translation>
+        <translation>Breve</translation>
     </message>
     <message>
         <source>Drag the handle at the edge of this field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trascina la maniglia sul bordo di questo campo.</translation>
     </message>
     <message>
         <source>Press here, with any button</source>
-        <translation type="unfinished"></translation>
+        <translation>Premi qui, con qualsiasi pulsante</translation>
     </message>
     <message>
         <source>Clipped text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo abbreviato</translation>
     </message>
     <message>
         <source>A text that is shown whole while you edit it, and elided while you do not</source>
-        <translation type="unfinished"></translation>
+        <translation>Un testo mostrato per intero durante la modifica e abbreviato altrimenti</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Note</translation>
     </message>
     <message>
         <source>Labels report presses</source>
-        <translation type="unfinished"></translation>
+        <translation>Le etichette segnalano i clic</translation>
     </message>
     <message>
         <source>Labels elide their texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Le etichette abbreviano i testi</translation>
     </message>
     <message>
         <source>at the end</source>
-        <translation type="unfinished"></translation>
+        <translation>alla fine</translation>
     </message>
     <message>
         <source>in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>al centro</translation>
     </message>
     <message>
         <source>at the beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>all&apos;inizio</translation>
     </message>
     <message>
         <source>Elide</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrevia</translation>
     </message>
     <message>
         <source>What do you think of it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Che cosa ne pensi?</translation>
     </message>
     <message>
         <source>Placeholder</source>
-        <translation type="unfinished"></translation>
+        <translation>Segnaposto</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Numero</translation>
     </message>
     <message>
         <source>Digits at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifre al massimo</translation>
     </message>
 </context>
 <context>
     <name>Gallery::MainWindow</name>
     <message>
         <source>KQtUi gallery</source>
-        <translation type="unfinished"></translation>
+        <translation>Galleria di KQtUi</translation>
     </message>
     <message>
         <source>&amp;Find a page</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trova una pagina</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Esci</translation>
     </message>
     <message>
         <source>&amp;Dark palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Tavolozza &amp;scura</translation>
     </message>
     <message>
         <source>&amp;Right to left</source>
-        <translation type="unfinished"></translation>
+        <translation>Da &amp;destra a sinistra</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;File</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Visualizza</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lingua</translation>
     </message>
     <message>
         <source>Language: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lingua: %1</translation>
     </message>
 </context>
 <context>
     <name>Gallery::NamedPalettePage</name>
     <message>
         <source>Click the button: a default colour, forty named colours, and a dialog behind &quot;More...&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fai clic sul pulsante: un colore predefinito, quaranta colori con un nome e una finestra di dialogo dietro «Altro...».</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore</translation>
     </message>
     <message>
         <source>While its popup is open the picker&apos;s property &quot;pressed&quot; is true: the page&apos;s style sheet gives it a thick border then.</source>
-        <translation type="unfinished"></translation>
+        <translation>Finché la tavolozza è aperta, la proprietà «pressed» del selettore è vera: il foglio di stile della pagina gli dà allora un bordo spesso.</translation>
     </message>
     <message>
         <source>Colorized</source>
-        <translation type="unfinished"></translation>
+        <translation>Colorato</translation>
     </message>
     <message>
         <source>Dark popup</source>
-        <translation type="unfinished"></translation>
+        <translation>Tavolozza scura</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Attivo</translation>
     </message>
     <message>
         <source>Make it the default</source>
-        <translation type="unfinished"></translation>
+        <translation>Rendi predefinito</translation>
     </message>
     <message>
         <source>The popup&apos;s &quot;Default&quot; button chooses this colour from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il pulsante «Predefinito» della tavolozza sceglie d&apos;ora in poi questo colore.</translation>
     </message>
 </context>
 <context>
     <name>Gallery::Page</name>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Proprietà</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulisci</translation>
     </message>
     <message>
         <source>Signals</source>
-        <translation type="unfinished"></translation>
+        <translation>Segnali</translation>
     </message>
 </context>
 <context>
     <name>Gallery::PageList</name>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtra</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagine</translation>
     </message>
 </context>
 <context>
     <name>Gallery::PensAndLinesPage</name>
     <message>
         <source>Pens, lines and opacity: each group draws what its boxes say.</source>
-        <translation type="unfinished"></translation>
+        <translation>Penne, linee e opacità: ogni gruppo disegna ciò che dicono le sue caselle.</translation>
     </message>
     <message>
         <source>Pen picker</source>
-        <translation type="unfinished"></translation>
+        <translation>Selettore di penna</translation>
     </message>
     <message>
         <source>Line style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile di linea</translation>
     </message>
     <message>
         <source>Line width</source>
-        <translation type="unfinished"></translation>
+        <translation>Spessore di linea</translation>
     </message>
     <message>
         <source>Line style and line width</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile e spessore di linea</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacità</translation>
     </message>
     <message>
         <source>Opacity adapter</source>
-        <translation type="unfinished"></translation>
+        <translation>Adattatore di opacità</translation>
     </message>
     <message>
         <source>Value: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore: %1</translation>
     </message>
     <message>
         <source>Slider with a zero tick</source>
-        <translation type="unfinished"></translation>
+        <translation>Cursore con tacca dello zero</translation>
     </message>
     <message>
         <source>Coloured tick</source>
-        <translation type="unfinished"></translation>
+        <translation>Tacca colorata</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Attivo</translation>
     </message>
 </context>
 <context>
     <name>Gallery::SelectionFramesPage</name>
     <message>
         <source>Drag the frames, their corners and their sides. The small picture is what the frames are rendered to, with its alpha.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trascina le cornici, i loro angoli e i loro lati. L&apos;immagine piccola è ciò che si ottiene dalle cornici, con il suo canale alfa.</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagine</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo</translation>
     </message>
     <message>
         <source>Region</source>
-        <translation type="unfinished"></translation>
+        <translation>Regione</translation>
     </message>
     <message>
         <source>Holiday by the sea</source>
-        <translation type="unfinished"></translation>
+        <translation>Vacanza al mare</translation>
     </message>
     <message>
         <source>Picture keeps its ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;immagine mantiene le proporzioni</translation>
     </message>
     <message>
         <source>Region keeps its ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>La regione mantiene le proporzioni</translation>
     </message>
     <message>
         <source>Work rect</source>
-        <translation type="unfinished"></translation>
+        <translation>Area di lavoro</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Trasparenza</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Riempimento</translation>
     </message>
     <message>
         <source>Outline</source>
-        <translation type="unfinished"></translation>
+        <translation>Contorno</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>Carattere</translation>
     </message>
 </context>
 <context>
     <name>Gallery::SignalLog</name>
     <message>
         <source>Signals appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>I segnali appaiono qui.</translation>
     </message>
 </context>
 <context>
     <name>Gallery::TilesPage</name>
     <message>
         <source>Tiles with a star, a play button and a duration over a picture; and a panel whose title bar can be dragged, detached and closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Riquadri con una stella, un pulsante di riproduzione e una durata sopra un&apos;immagine; e un pannello la cui barra del titolo si può trascinare, sganciare e chiudere.</translation>
     </message>
     <message>
         <source>Sunrise</source>
-        <translation type="unfinished"></translation>
+        <translation>Alba</translation>
     </message>
     <message>
         <source>Noon</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezzogiorno</translation>
     </message>
     <message>
         <source>Sunset</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramonto</translation>
     </message>
     <message>
         <source>Night</source>
-        <translation type="unfinished"></translation>
+        <translation>Notte</translation>
     </message>
     <message>
         <source>Pin playlist</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggancia la playlist</translation>
     </message>
     <message>
         <source>Unpin playlist</source>
-        <translation type="unfinished"></translation>
+        <translation>Sgancia la playlist</translation>
     </message>
     <message>
         <source>Stars</source>
-        <translation type="unfinished"></translation>
+        <translation>Stelle</translation>
     </message>
     <message>
         <source>Play buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulsanti di riproduzione</translation>
     </message>
     <message>
         <source>Clips can be played</source>
-        <translation type="unfinished"></translation>
+        <translation>I filmati sono riproducibili</translation>
     </message>
     <message>
         <source>Styled as floating</source>
-        <translation type="unfinished"></translation>
+        <translation>Con stile mobile</translation>
     </message>
     <message>
         <source>Show the panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra il pannello</translation>
     </message>
 </context>
 <context>
     <name>Gallery::Tour</name>
     <message>
         <source>Welcome to the gallery</source>
-        <translation type="unfinished"></translation>
+        <translation>Ti diamo il benvenuto nella galleria</translation>
     </message>
     <message>
         <source>Every family of components has a page of its own, and all of them are alive. The tour shows you around in a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ogni famiglia di componenti ha la sua pagina, e sono tutti vivi. La visita ti mostra tutto in un minuto.</translation>
     </message>
     <message>
         <source>Find a page</source>
-        <translation type="unfinished"></translation>
+        <translation>Trova una pagina</translation>
     </message>
     <message>
         <source>Type part of a title. The arrow keys move through the pages that are left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scrivi una parte del titolo. I tasti freccia scorrono le pagine rimaste.</translation>
     </message>
     <message>
         <source>Dark, and from right to left</source>
-        <translation type="unfinished"></translation>
+        <translation>Scuro, e da destra a sinistra</translation>
     </message>
     <message>
         <source>These two switches are one target: the frame goes round both. This hint stays clear of the filter, so that you can go on typing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questi due interruttori sono un&apos;unica destinazione: la cornice li circonda entrambi. Questo suggerimento non copre il filtro, così puoi continuare a scrivere.</translation>
     </message>
     <message>
         <source>In your language</source>
-        <translation type="unfinished"></translation>
+        <translation>Nella tua lingua</translation>
     </message>
     <message>
         <source>The texts change at once, those of this hint as well. Clicking what a hint points at takes you on, just as Next does.</source>
-        <translation type="unfinished"></translation>
+        <translation>I testi cambiano subito, anche quelli di questo suggerimento. Un clic su ciò che un suggerimento indica ti porta avanti, proprio come Avanti.</translation>
     </message>
     <message>
         <source>Open a page</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri una pagina</translation>
     </message>
     <message>
         <source>Choose &quot;Walkthrough&quot; in the list. The last hint waits for that page to be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli «Visita guidata» nell&apos;elenco. L&apos;ultimo suggerimento aspetta che quella pagina venga aperta.</translation>
     </message>
     <message>
         <source>How the tour works</source>
-        <translation type="unfinished"></translation>
+        <translation>Come funziona la visita</translation>
     </message>
     <message>
         <source>A walkthrough is a machine of named states. Here you see another one at work, and can drive it yourself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una visita guidata è una macchina di stati con un nome. Qui ne vedi un&apos;altra al lavoro e puoi guidarla tu.</translation>
     </message>
 </context>
 <context>
     <name>Gallery::WalkthroughPage</name>
     <message>
         <source>One target</source>
-        <translation type="unfinished"></translation>
+        <translation>Una destinazione</translation>
     </message>
     <message>
         <source>Press the button, or Next.</source>
-        <translation type="unfinished"></translation>
+        <translation>Premi il pulsante, oppure Avanti.</translation>
     </message>
     <message>
         <source>Two targets</source>
-        <translation type="unfinished"></translation>
+        <translation>Due destinazioni</translation>
     </message>
     <message>
         <source>Hide one with the switches: the frame follows. Hide both, and the hint goes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nascondine una con gli interruttori: la cornice segue. Nascondile entrambe e il suggerimento sparisce.</translation>
     </message>
     <message>
         <source>A small tour of its own. Start it, hide its targets, or enter a state by double-clicking it: the lists show the machine&apos;s groups, and what each hint still waits for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una piccola visita a sé. Avviala, nascondi le sue destinazioni o entra in uno stato con un doppio clic: gli elenchi mostrano i gruppi della macchina e ciò che ogni suggerimento ancora aspetta.</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva</translation>
     </message>
     <message>
         <source>Left lamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Lampada sinistra</translation>
     </message>
     <message>
         <source>Right lamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Lampada destra</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppo</translation>
     </message>
     <message>
         <source>Active state</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato attivo</translation>
     </message>
     <message>
         <source>Groups and states</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppi e stati</translation>
     </message>
     <message>
         <source>Hint</source>
-        <translation type="unfinished"></translation>
+        <translation>Suggerimento</translation>
     </message>
     <message>
         <source>Unmet conditions</source>
-        <translation type="unfinished"></translation>
+        <translation>Condizioni non soddisfatte</translation>
     </message>
     <message>
         <source>Waits for</source>
-        <translation type="unfinished"></translation>
+        <translation>Aspetta</translation>
     </message>
     <message>
         <source>Hints</source>
-        <translation type="unfinished"></translation>
+        <translation>Suggerimenti</translation>
     </message>
     <message>
         <source>Start the tour</source>
-        <translation type="unfinished"></translation>
+        <translation>Avvia la visita</translation>
     </message>
     <message>
         <source>Stop the tour</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferma la visita</translation>
     </message>
     <message>
         <source>Hints enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Suggerimenti attivi</translation>
     </message>
     <message>
         <source>Save is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva è visibile</translation>
     </message>
     <message>
         <source>Left lamp is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>La lampada sinistra è visibile</translation>
     </message>
     <message>
         <source>Right lamp is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>La lampada destra è visibile</translation>
     </message>
     <message>
         <source>Hints avoid the list of hints</source>
-        <translation type="unfinished"></translation>
+        <translation>I suggerimenti evitano il loro elenco</translation>
     </message>
     <message>
         <source>entered %1</source>
-        <translation type="unfinished"></translation>
+        <translation>entrato in %1</translation>
     </message>
 </context>
 <context>
     <name>Gallery::WidgetRendererPage</name>
     <message>
         <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
-        <translation type="unfinished"></translation>
+        <translation>I widget a sinistra vengono disegnati nell&apos;immagine a destra e ritagliati dalla loro finestra. Anche ritagliati, rispondono ancora al mouse.</translation>
     </message>
     <message>
         <source>Compose</source>
-        <translation type="unfinished"></translation>
+        <translation>Componi</translation>
     </message>
     <message>
         <source>Give back</source>
-        <translation type="unfinished"></translation>
+        <translation>Restituisci</translation>
     </message>
     <message>
         <source>Button</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulsante</translation>
     </message>
     <message>
         <source>Check box</source>
-        <translation type="unfinished"></translation>
+        <translation>Casella di controllo</translation>
     </message>
 </context>
 </TS>

@@ -5,892 +5,892 @@
     <name>Gallery</name>
     <message>
         <source>Advanced colour picker</source>
-        <translation type="unfinished"></translation>
+        <translation>高度なカラーピッカー</translation>
     </message>
     <message>
         <source>Combo boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>コンボボックス</translation>
     </message>
     <message>
         <source>Drop and drag</source>
-        <translation type="unfinished"></translation>
+        <translation>ドロップとドラッグ</translation>
     </message>
     <message>
         <source>Event helpers</source>
-        <translation type="unfinished"></translation>
+        <translation>イベントヘルパー</translation>
     </message>
     <message>
         <source>Eyedropper</source>
-        <translation type="unfinished"></translation>
+        <translation>スポイト</translation>
     </message>
     <message>
         <source>Formatting</source>
-        <translation type="unfinished"></translation>
+        <translation>書式設定</translation>
     </message>
     <message>
         <source>Frame over a window</source>
-        <translation type="unfinished"></translation>
+        <translation>ウィンドウ上の枠</translation>
     </message>
     <message>
         <source>Labels and inputs</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベルと入力欄</translation>
     </message>
     <message>
         <source>Named palette</source>
-        <translation type="unfinished"></translation>
+        <translation>名前付きパレット</translation>
     </message>
     <message>
         <source>Pens and lines</source>
-        <translation type="unfinished"></translation>
+        <translation>ペンと線</translation>
     </message>
     <message>
         <source>Selection frames</source>
-        <translation type="unfinished"></translation>
+        <translation>選択枠</translation>
     </message>
     <message>
         <source>Tiles and title bars</source>
-        <translation type="unfinished"></translation>
+        <translation>タイルとタイトルバー</translation>
     </message>
     <message>
         <source>Walkthrough</source>
-        <translation type="unfinished"></translation>
+        <translation>ツアー</translation>
     </message>
     <message>
         <source>Widget renderer</source>
-        <translation type="unfinished"></translation>
+        <translation>ウィジェットの描画</translation>
     </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
     <message>
         <source>Click a colour to open its popup; the note takes the new colour while you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>色をクリックするとポップアップが開きます。選んでいる間、メモに新しい色が反映されます。</translation>
     </message>
     <message>
         <source>Buy milk, feed the cat</source>
-        <translation type="unfinished"></translation>
+        <translation>牛乳を買う、猫に餌をやる</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>紙</translation>
     </message>
     <message>
         <source>Ink</source>
-        <translation type="unfinished"></translation>
+        <translation>インク</translation>
     </message>
     <message>
         <source>Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>マーカー</translation>
     </message>
     <message>
         <source>Drag a colour from the palette to one of the twelve slots above it. The slots are shared: open another picker and find the colour there.</source>
-        <translation type="unfinished"></translation>
+        <translation>パレットの色を、その上にある 12 個のスロットのどれかにドラッグしてください。スロットは共有です。別のピッカーを開くと、そこにもその色があります。</translation>
     </message>
     <message>
         <source>Opacity of the marker</source>
-        <translation type="unfinished"></translation>
+        <translation>マーカーの不透明度</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>有効</translation>
     </message>
     <message>
         <source>Random colours</source>
-        <translation type="unfinished"></translation>
+        <translation>ランダムな色</translation>
     </message>
     <message>
         <source>A colour that is set by the program makes no signal.</source>
-        <translation type="unfinished"></translation>
+        <translation>プログラムが設定した色ではシグナルは発生しません。</translation>
     </message>
     <message>
         <source>Open popup here</source>
-        <translation type="unfinished"></translation>
+        <translation>ここにポップアップを開く</translation>
     </message>
 </context>
 <context>
     <name>Gallery::ComboBoxesPage</name>
     <message>
         <source>Combo boxes that are narrower than their items. Turn the wheel over the form, open the lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>項目より幅の狭いコンボボックスです。フォームの上でホイールを回し、一覧を開いてみてください。</translation>
     </message>
     <message>
         <source>Narrow box</source>
-        <translation type="unfinished"></translation>
+        <translation>幅の狭いボックス</translation>
     </message>
     <message>
         <source>Elided text and wide popup</source>
-        <translation type="unfinished"></translation>
+        <translation>省略されたテキストと幅の広いポップアップ</translation>
     </message>
     <message>
         <source>Row %1</source>
-        <translation type="unfinished"></translation>
+        <translation>行 %1</translation>
     </message>
     <message>
         <source>No wheel in a scrolling form</source>
-        <translation type="unfinished"></translation>
+        <translation>スクロールするフォームでのホイール無効</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>元に戻す</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>切り取り</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>コピー</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>貼り付け</translation>
     </message>
     <message>
         <source>Box with separators</source>
-        <translation type="unfinished"></translation>
+        <translation>区切り線付きのボックス</translation>
     </message>
     <message>
         <source>Separators</source>
-        <translation type="unfinished"></translation>
+        <translation>区切り線</translation>
     </message>
     <message>
         <source>A preset with a rather long name</source>
-        <translation type="unfinished"></translation>
+        <translation>かなり長い名前のプリセット</translation>
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット</translation>
     </message>
     <message>
         <source>Calm</source>
-        <translation type="unfinished"></translation>
+        <translation>落ち着いた</translation>
     </message>
     <message>
         <source>Bright</source>
-        <translation type="unfinished"></translation>
+        <translation>明るい</translation>
     </message>
     <message>
         <source>Night</source>
-        <translation type="unfinished"></translation>
+        <translation>夜</translation>
     </message>
     <message>
         <source>Preset panel</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットパネル</translation>
     </message>
     <message>
         <source>Wide popup</source>
-        <translation type="unfinished"></translation>
+        <translation>幅の広いポップアップ</translation>
     </message>
     <message>
         <source>Mouse wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>マウスホイール</translation>
     </message>
     <message>
         <source>Elide text</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストを省略</translation>
     </message>
     <message>
         <source>Tool tip:</source>
-        <translation type="unfinished"></translation>
+        <translation>ツールチップ:</translation>
     </message>
     <message>
         <source>Styled separators</source>
-        <translation type="unfinished"></translation>
+        <translation>装飾された区切り線</translation>
     </message>
     <message>
         <source>Preset icon</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットのアイコン</translation>
     </message>
     <message>
         <source>Short</source>
-        <translation type="unfinished"></translation>
+        <translation>短い</translation>
     </message>
     <message>
         <source>An item whose text is much longer than the box</source>
-        <translation type="unfinished"></translation>
+        <translation>ボックスよりずっと長いテキストの項目</translation>
     </message>
     <message>
         <source>Another one that does not fit</source>
-        <translation type="unfinished"></translation>
+        <translation>収まりきらないもう一つの項目</translation>
     </message>
 </context>
 <context>
     <name>Gallery::DropAndDragPage</name>
     <message>
         <source>Drop files from a file manager: one observer takes pictures, the other texts, and each hears of everything that is dropped. Drag the panel by any point, its button included: what was dragged is not clicked.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルマネージャーからファイルをドロップしてください。一方のオブザーバーは画像を、もう一方はテキストを受け取り、どちらもドロップされたすべてを知らされます。パネルは、ボタンも含めてどこをつかんでもドラッグできます。ドラッグしたものはクリックされません。</translation>
     </message>
     <message>
         <source>Pictures are welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>画像を歓迎します</translation>
     </message>
     <message>
         <source>Texts are welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストを歓迎します</translation>
     </message>
     <message>
         <source>Drop pictures or texts here</source>
-        <translation type="unfinished"></translation>
+        <translation>ここに画像かテキストをドロップ</translation>
     </message>
     <message>
         <source>Drag me anywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>どこでもドラッグできます</translation>
     </message>
     <message>
         <source>Click me</source>
-        <translation type="unfinished"></translation>
+        <translation>クリックしてください</translation>
     </message>
 </context>
 <context>
     <name>Gallery::EventHelpersPage</name>
     <message>
         <source>Scribble on the pad: the lamps below show the signals that the helpers make of its events. Without propagation the signals still come, but the pad itself sees no mouse any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>パッドに落書きしてください。下のランプは、ヘルパーがパッドのイベントから作るシグナルを示します。伝播を止めてもシグナルは届きますが、パッド自体にはマウスが見えなくなります。</translation>
     </message>
     <message>
         <source>Scribble here</source>
-        <translation type="unfinished"></translation>
+        <translation>ここに落書き</translation>
     </message>
     <message>
         <source>Events go on to the pad</source>
-        <translation type="unfinished"></translation>
+        <translation>イベントをパッドにも渡す</translation>
     </message>
     <message>
         <source>Hover events</source>
-        <translation type="unfinished"></translation>
+        <translation>ホバーイベント</translation>
     </message>
     <message>
         <source>Moves without a button</source>
-        <translation type="unfinished"></translation>
+        <translation>ボタンを押さない移動</translation>
     </message>
     <message>
         <source>Wipe the pad</source>
-        <translation type="unfinished"></translation>
+        <translation>パッドを消す</translation>
     </message>
     <message>
         <source>Drop it here</source>
-        <translation type="unfinished"></translation>
+        <translation>ここにドロップ</translation>
     </message>
     <message>
         <source>Drag this text</source>
-        <translation type="unfinished"></translation>
+        <translation>このテキストをドラッグ</translation>
     </message>
     <message>
         <source>Drop field is guarded</source>
-        <translation type="unfinished"></translation>
+        <translation>ドロップ欄を保護</translation>
     </message>
     <message>
         <source>Window stays on top</source>
-        <translation type="unfinished"></translation>
+        <translation>ウィンドウを常に手前に表示</translation>
     </message>
 </context>
 <context>
     <name>Gallery::EyedropperPage</name>
     <message>
         <source>Press the button, then click into the picture: the button takes the colour under the cursor. Any key picks as well; a click elsewhere ends it without a colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>ボタンを押してから画像の中をクリックしてください。ボタンがカーソルの下の色になります。どのキーでも選べます。ほかの場所をクリックすると、色を選ばずに終わります。</translation>
     </message>
     <message>
         <source>Pick a colour from the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>画像から色を選ぶ</translation>
     </message>
     <message>
         <source>Button shows the colour</source>
-        <translation type="unfinished"></translation>
+        <translation>ボタンに色を表示</translation>
     </message>
     <message>
         <source>Picture is the target</source>
-        <translation type="unfinished"></translation>
+        <translation>画像を対象にする</translation>
     </message>
 </context>
 <context>
     <name>Gallery::FormattingPage</name>
     <message>
         <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>2 本のバーで見本の書式を設定してください。アイコンはページのスタイルシートに由来し、「styleTag」プロパティでボタンを選んでいます。</translation>
     </message>
     <message>
         <source>The quick brown fox jumps over the lazy dog, and the dog, being lazy, lets it jump as often as it likes.</source>
-        <translation type="unfinished"></translation>
+        <translation>すばやい茶色の狐がのろまな犬を飛び越え、犬はのろまなので、狐に好きなだけ飛ばせておきます。</translation>
     </message>
     <message>
         <source>Plain font</source>
-        <translation type="unfinished"></translation>
+        <translation>標準のフォント</translation>
     </message>
     <message>
         <source>The program sets a font: a signal for each toggle that changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>プログラムがフォントを設定します。変化したボタンごとにシグナルが一つ発生します。</translation>
     </message>
     <message>
         <source>Set to left</source>
-        <translation type="unfinished"></translation>
+        <translation>左揃えに設定</translation>
     </message>
     <message>
         <source>The program checks a button: no signal, and the sample stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>プログラムがボタンを選択します。シグナルは発生せず、見本はそのままです。</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>有効</translation>
     </message>
 </context>
 <context>
     <name>Gallery::FrameOverWindowPage</name>
     <message>
         <source>The window below goes on living while the frame lies over it. In edit mode the mouse moves the frame; otherwise it reaches the window.</source>
-        <translation type="unfinished"></translation>
+        <translation>枠が重なっている間も、下のウィンドウは動き続けます。編集モードではマウスで枠が動き、それ以外ではマウスはウィンドウに届きます。</translation>
     </message>
     <message>
         <source>Type here while edit mode is off</source>
-        <translation type="unfinished"></translation>
+        <translation>編集モードがオフのときにここに入力</translation>
     </message>
     <message>
         <source>Press here while edit mode is off</source>
-        <translation type="unfinished"></translation>
+        <translation>編集モードがオフのときにここを押す</translation>
     </message>
     <message>
         <source>A window with its own life</source>
-        <translation type="unfinished"></translation>
+        <translation>独立して動くウィンドウ</translation>
     </message>
     <message>
         <source>From %1 %, %2 %: %3 % wide, %4 % high</source>
         <comment>position and size of the frame</comment>
-        <translation type="unfinished"></translation>
+        <translation>位置 %1 %, %2 %: 幅 %3 %, 高さ %4 %</translation>
     </message>
     <message>
         <source>Edit mode</source>
-        <translation type="unfinished"></translation>
+        <translation>編集モード</translation>
     </message>
     <message>
         <source>Keep the ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>縦横比を維持</translation>
     </message>
     <message>
         <source>Work rect</source>
-        <translation type="unfinished"></translation>
+        <translation>作業領域</translation>
     </message>
     <message>
         <source>Veil</source>
-        <translation type="unfinished"></translation>
+        <translation>ベール</translation>
     </message>
 </context>
 <context>
     <name>Gallery::GalleryHint</name>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>次へ</translation>
     </message>
     <message>
         <source>Not now</source>
-        <translation type="unfinished"></translation>
+        <translation>今はしない</translation>
     </message>
     <message>
         <source>Never again</source>
-        <translation type="unfinished"></translation>
+        <translation>今後表示しない</translation>
     </message>
 </context>
 <context>
     <name>Gallery::LabelsAndInputsPage</name>
     <message>
         <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>ハンドルをドラッグして左の列を狭めてください。ラベルと入力欄はテキストを省略し、全文をツールチップで示します。入力欄は編集中に全文を表示します。</translation>
     </message>
     <message>
         <source>A file name that is much too long for a column as narrow as this one.txt</source>
-        <translation type="unfinished"></translation>
+        <translation>この列のように狭い列にはあまりにも長すぎるファイル名.txt</translation>
     </message>
     <message>
         <source>Mixed directions: %1, elided in order</source>
-        <translation type="unfinished"></translation>
+        <translation>混在する方向: %1、順序どおりに省略</translation>
     </message>
     <message>
         <source>Short</source>
-        <translation type="unfinished"></translation>
+        <translation>短い</translation>
     </message>
     <message>
         <source>Drag the handle at the edge of this field.</source>
-        <translation type="unfinished"></translation>
+        <translation>この欄の端にあるハンドルをドラッグしてください。</translation>
     </message>
     <message>
         <source>Press here, with any button</source>
-        <translation type="unfinished"></translation>
+        <translation>どのボタンでもここを押す</translation>
     </message>
     <message>
         <source>Clipped text</source>
-        <translation type="unfinished"></translation>
+        <translation>省略されたテキスト</translation>
     </message>
     <message>
         <source>A text that is shown whole while you edit it, and elided while you do not</source>
-        <translation type="unfinished"></translation>
+        <translation>編集中は全文が表示され、それ以外では省略されるテキスト</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>メモ</translation>
     </message>
     <message>
         <source>Labels report presses</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベルが押下を通知</translation>
     </message>
     <message>
         <source>Labels elide their texts</source>
-        <translation type="unfinished"></translation>
+        <translation>ラベルがテキストを省略</translation>
     </message>
     <message>
         <source>at the end</source>
-        <translation type="unfinished"></translation>
+        <translation>末尾</translation>
     </message>
     <message>
         <source>in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>中央</translation>
     </message>
     <message>
         <source>at the beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>先頭</translation>
     </message>
     <message>
         <source>Elide</source>
-        <translation type="unfinished"></translation>
+        <translation>省略</translation>
     </message>
     <message>
         <source>What do you think of it?</source>
-        <translation type="unfinished"></translation>
+        <translation>どう思いますか?</translation>
     </message>
     <message>
         <source>Placeholder</source>
-        <translation type="unfinished"></translation>
+        <translation>プレースホルダー</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>数値</translation>
     </message>
     <message>
         <source>Digits at most</source>
-        <translation type="unfinished"></translation>
+        <translation>最大桁数</translation>
     </message>
 </context>
 <context>
     <name>Gallery::MainWindow</name>
     <message>
         <source>KQtUi gallery</source>
-        <translation type="unfinished"></translation>
+        <translation>KQtUi ギャラリー</translation>
     </message>
     <message>
         <source>&amp;Find a page</source>
-        <translation type="unfinished"></translation>
+        <translation>ページを検索(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>終了(&amp;Q)</translation>
     </message>
     <message>
         <source>&amp;Dark palette</source>
-        <translation type="unfinished"></translation>
+        <translation>暗いパレット(&amp;D)</translation>
     </message>
     <message>
         <source>&amp;Right to left</source>
-        <translation type="unfinished"></translation>
+        <translation>右から左(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>表示(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>言語(&amp;L)</translation>
     </message>
     <message>
         <source>Language: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>言語: %1</translation>
     </message>
 </context>
 <context>
     <name>Gallery::NamedPalettePage</name>
     <message>
         <source>Click the button: a default colour, forty named colours, and a dialog behind &quot;More...&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>ボタンをクリックしてください。既定の色、40 色の名前付きの色、そして「その他...」の奥にダイアログがあります。</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>色</translation>
     </message>
     <message>
         <source>While its popup is open the picker&apos;s property &quot;pressed&quot; is true: the page&apos;s style sheet gives it a thick border then.</source>
-        <translation type="unfinished"></translation>
+        <translation>ポップアップが開いている間、ピッカーの「pressed」プロパティは true になり、ページのスタイルシートが太い枠を付けます。</translation>
     </message>
     <message>
         <source>Colorized</source>
-        <translation type="unfinished"></translation>
+        <translation>着色</translation>
     </message>
     <message>
         <source>Dark popup</source>
-        <translation type="unfinished"></translation>
+        <translation>暗いポップアップ</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>有効</translation>
     </message>
     <message>
         <source>Make it the default</source>
-        <translation type="unfinished"></translation>
+        <translation>既定にする</translation>
     </message>
     <message>
         <source>The popup&apos;s &quot;Default&quot; button chooses this colour from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>ポップアップの「既定」ボタンは、以後この色を選びます。</translation>
     </message>
 </context>
 <context>
     <name>Gallery::Page</name>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>プロパティ</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>消去</translation>
     </message>
     <message>
         <source>Signals</source>
-        <translation type="unfinished"></translation>
+        <translation>シグナル</translation>
     </message>
 </context>
 <context>
     <name>Gallery::PageList</name>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>絞り込み</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ</translation>
     </message>
 </context>
 <context>
     <name>Gallery::PensAndLinesPage</name>
     <message>
         <source>Pens, lines and opacity: each group draws what its boxes say.</source>
-        <translation type="unfinished"></translation>
+        <translation>ペン、線、不透明度。各グループはボックスの内容どおりに描かれます。</translation>
     </message>
     <message>
         <source>Pen picker</source>
-        <translation type="unfinished"></translation>
+        <translation>ペンピッカー</translation>
     </message>
     <message>
         <source>Line style</source>
-        <translation type="unfinished"></translation>
+        <translation>線のスタイル</translation>
     </message>
     <message>
         <source>Line width</source>
-        <translation type="unfinished"></translation>
+        <translation>線の太さ</translation>
     </message>
     <message>
         <source>Line style and line width</source>
-        <translation type="unfinished"></translation>
+        <translation>線のスタイルと太さ</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>不透明度</translation>
     </message>
     <message>
         <source>Opacity adapter</source>
-        <translation type="unfinished"></translation>
+        <translation>不透明度アダプター</translation>
     </message>
     <message>
         <source>Value: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>値: %1</translation>
     </message>
     <message>
         <source>Slider with a zero tick</source>
-        <translation type="unfinished"></translation>
+        <translation>ゼロ目盛り付きスライダー</translation>
     </message>
     <message>
         <source>Coloured tick</source>
-        <translation type="unfinished"></translation>
+        <translation>色付きの目盛り</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>有効</translation>
     </message>
 </context>
 <context>
     <name>Gallery::SelectionFramesPage</name>
     <message>
         <source>Drag the frames, their corners and their sides. The small picture is what the frames are rendered to, with its alpha.</source>
-        <translation type="unfinished"></translation>
+        <translation>枠とその角や辺をドラッグしてください。小さい画像は、枠をアルファ付きで描画した結果です。</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>画像</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>テキスト</translation>
     </message>
     <message>
         <source>Region</source>
-        <translation type="unfinished"></translation>
+        <translation>範囲</translation>
     </message>
     <message>
         <source>Holiday by the sea</source>
-        <translation type="unfinished"></translation>
+        <translation>海辺の休日</translation>
     </message>
     <message>
         <source>Picture keeps its ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の縦横比を維持</translation>
     </message>
     <message>
         <source>Region keeps its ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>範囲の縦横比を維持</translation>
     </message>
     <message>
         <source>Work rect</source>
-        <translation type="unfinished"></translation>
+        <translation>作業領域</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>透明度</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>塗りつぶし</translation>
     </message>
     <message>
         <source>Outline</source>
-        <translation type="unfinished"></translation>
+        <translation>輪郭</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>フォント</translation>
     </message>
 </context>
 <context>
     <name>Gallery::SignalLog</name>
     <message>
         <source>Signals appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>シグナルはここに表示されます。</translation>
     </message>
 </context>
 <context>
     <name>Gallery::TilesPage</name>
     <message>
         <source>Tiles with a star, a play button and a duration over a picture; and a panel whose title bar can be dragged, detached and closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の上に星、再生ボタン、再生時間が重なるタイルと、タイトルバーをドラッグしたり、切り離したり、閉じたりできるパネルです。</translation>
     </message>
     <message>
         <source>Sunrise</source>
-        <translation type="unfinished"></translation>
+        <translation>日の出</translation>
     </message>
     <message>
         <source>Noon</source>
-        <translation type="unfinished"></translation>
+        <translation>正午</translation>
     </message>
     <message>
         <source>Sunset</source>
-        <translation type="unfinished"></translation>
+        <translation>日没</translation>
     </message>
     <message>
         <source>Night</source>
-        <translation type="unfinished"></translation>
+        <translation>夜</translation>
     </message>
     <message>
         <source>Pin playlist</source>
-        <translation type="unfinished"></translation>
+        <translation>再生リストを固定</translation>
     </message>
     <message>
         <source>Unpin playlist</source>
-        <translation type="unfinished"></translation>
+        <translation>再生リストの固定を解除</translation>
     </message>
     <message>
         <source>Stars</source>
-        <translation type="unfinished"></translation>
+        <translation>星</translation>
     </message>
     <message>
         <source>Play buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>再生ボタン</translation>
     </message>
     <message>
         <source>Clips can be played</source>
-        <translation type="unfinished"></translation>
+        <translation>クリップを再生可能</translation>
     </message>
     <message>
         <source>Styled as floating</source>
-        <translation type="unfinished"></translation>
+        <translation>フローティングのスタイル</translation>
     </message>
     <message>
         <source>Show the panel</source>
-        <translation type="unfinished"></translation>
+        <translation>パネルを表示</translation>
     </message>
 </context>
 <context>
     <name>Gallery::Tour</name>
     <message>
         <source>Welcome to the gallery</source>
-        <translation type="unfinished"></translation>
+        <translation>ギャラリーへようこそ</translation>
     </message>
     <message>
         <source>Every family of components has a page of its own, and all of them are alive. The tour shows you around in a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>コンポーネントの種類ごとにページがあり、どれも実際に動きます。ツアーなら 1 分で一通りご案内します。</translation>
     </message>
     <message>
         <source>Find a page</source>
-        <translation type="unfinished"></translation>
+        <translation>ページを探す</translation>
     </message>
     <message>
         <source>Type part of a title. The arrow keys move through the pages that are left.</source>
-        <translation type="unfinished"></translation>
+        <translation>タイトルの一部を入力してください。矢印キーで残ったページを移動できます。</translation>
     </message>
     <message>
         <source>Dark, and from right to left</source>
-        <translation type="unfinished"></translation>
+        <translation>暗く、そして右から左へ</translation>
     </message>
     <message>
         <source>These two switches are one target: the frame goes round both. This hint stays clear of the filter, so that you can go on typing.</source>
-        <translation type="unfinished"></translation>
+        <translation>この 2 つのスイッチは 1 つのターゲットで、枠は両方を囲みます。このヒントは絞り込み欄を隠さないので、入力を続けられます。</translation>
     </message>
     <message>
         <source>In your language</source>
-        <translation type="unfinished"></translation>
+        <translation>あなたの言語で</translation>
     </message>
     <message>
         <source>The texts change at once, those of this hint as well. Clicking what a hint points at takes you on, just as Next does.</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストはすぐに切り替わります。このヒントも同じです。ヒントが指すものをクリックすると、「次へ」と同じように先へ進みます。</translation>
     </message>
     <message>
         <source>Open a page</source>
-        <translation type="unfinished"></translation>
+        <translation>ページを開く</translation>
     </message>
     <message>
         <source>Choose &quot;Walkthrough&quot; in the list. The last hint waits for that page to be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>一覧から「ツアー」を選んでください。最後のヒントは、そのページが開かれるのを待っています。</translation>
     </message>
     <message>
         <source>How the tour works</source>
-        <translation type="unfinished"></translation>
+        <translation>ツアーのしくみ</translation>
     </message>
     <message>
         <source>A walkthrough is a machine of named states. Here you see another one at work, and can drive it yourself.</source>
-        <translation type="unfinished"></translation>
+        <translation>ツアーは名前付きの状態からなる機械です。ここでは別のツアーが動く様子を見て、自分で操作できます。</translation>
     </message>
 </context>
 <context>
     <name>Gallery::WalkthroughPage</name>
     <message>
         <source>One target</source>
-        <translation type="unfinished"></translation>
+        <translation>1 つのターゲット</translation>
     </message>
     <message>
         <source>Press the button, or Next.</source>
-        <translation type="unfinished"></translation>
+        <translation>ボタンか「次へ」を押してください。</translation>
     </message>
     <message>
         <source>Two targets</source>
-        <translation type="unfinished"></translation>
+        <translation>2 つのターゲット</translation>
     </message>
     <message>
         <source>Hide one with the switches: the frame follows. Hide both, and the hint goes.</source>
-        <translation type="unfinished"></translation>
+        <translation>スイッチで一方を隠すと、枠が追従します。両方を隠すと、ヒントは消えます。</translation>
     </message>
     <message>
         <source>A small tour of its own. Start it, hide its targets, or enter a state by double-clicking it: the lists show the machine&apos;s groups, and what each hint still waits for.</source>
-        <translation type="unfinished"></translation>
+        <translation>それ自体が小さなツアーです。開始したり、ターゲットを隠したり、ダブルクリックで状態に入ったりしてください。一覧には機械のグループと、各ヒントがまだ待っているものが表示されます。</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>Left lamp</source>
-        <translation type="unfinished"></translation>
+        <translation>左のランプ</translation>
     </message>
     <message>
         <source>Right lamp</source>
-        <translation type="unfinished"></translation>
+        <translation>右のランプ</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>グループ</translation>
     </message>
     <message>
         <source>Active state</source>
-        <translation type="unfinished"></translation>
+        <translation>アクティブな状態</translation>
     </message>
     <message>
         <source>Groups and states</source>
-        <translation type="unfinished"></translation>
+        <translation>グループと状態</translation>
     </message>
     <message>
         <source>Hint</source>
-        <translation type="unfinished"></translation>
+        <translation>ヒント</translation>
     </message>
     <message>
         <source>Unmet conditions</source>
-        <translation type="unfinished"></translation>
+        <translation>満たされていない条件</translation>
     </message>
     <message>
         <source>Waits for</source>
-        <translation type="unfinished"></translation>
+        <translation>待機対象</translation>
     </message>
     <message>
         <source>Hints</source>
-        <translation type="unfinished"></translation>
+        <translation>ヒント</translation>
     </message>
     <message>
         <source>Start the tour</source>
-        <translation type="unfinished"></translation>
+        <translation>ツアーを開始</translation>
     </message>
     <message>
         <source>Stop the tour</source>
-        <translation type="unfinished"></translation>
+        <translation>ツアーを停止</translation>
     </message>
     <message>
         <source>Hints enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>ヒントを有効にする</translation>
     </message>
     <message>
         <source>Save is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>「保存」を表示</translation>
     </message>
     <message>
         <source>Left lamp is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>左のランプを表示</translation>
     </message>
     <message>
         <source>Right lamp is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>右のランプを表示</translation>
     </message>
     <message>
         <source>Hints avoid the list of hints</source>
-        <translation type="unfinished"></translation>
+        <translation>ヒントの一覧を避けて表示</translation>
     </message>
     <message>
         <source>entered %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 に入りました</translation>
     </message>
 </context>
 <context>
     <name>Gallery::WidgetRendererPage</name>
     <message>
         <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
-        <translation type="unfinished"></translation>
+        <translation>左のウィジェットは右の画像に描画され、ウィンドウから切り抜かれます。切り抜かれても、マウスに反応します。</translation>
     </message>
     <message>
         <source>Compose</source>
-        <translation type="unfinished"></translation>
+        <translation>合成</translation>
     </message>
     <message>
         <source>Give back</source>
-        <translation type="unfinished"></translation>
+        <translation>元に戻す</translation>
     </message>
     <message>
         <source>Button</source>
-        <translation type="unfinished"></translation>
+        <translation>ボタン</translation>
     </message>
     <message>
         <source>Check box</source>
-        <translation type="unfinished"></translation>
+        <translation>チェックボックス</translation>
     </message>
 </context>
 </TS>

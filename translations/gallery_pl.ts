@@ -5,892 +5,892 @@
     <name>Gallery</name>
     <message>
         <source>Advanced colour picker</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaawansowany wybór koloru</translation>
     </message>
     <message>
         <source>Combo boxes</source>
-        <translation type="unfinished"></translation>
+        <translation>Pola kombi</translation>
     </message>
     <message>
         <source>Drop and drag</source>
-        <translation type="unfinished"></translation>
+        <translation>Upuszczanie i przeciąganie</translation>
     </message>
     <message>
         <source>Event helpers</source>
-        <translation type="unfinished"></translation>
+        <translation>Pomocnicy zdarzeń</translation>
     </message>
     <message>
         <source>Eyedropper</source>
-        <translation type="unfinished"></translation>
+        <translation>Kroplomierz</translation>
     </message>
     <message>
         <source>Formatting</source>
-        <translation type="unfinished"></translation>
+        <translation>Formatowanie</translation>
     </message>
     <message>
         <source>Frame over a window</source>
-        <translation type="unfinished"></translation>
+        <translation>Ramka nad oknem</translation>
     </message>
     <message>
         <source>Labels and inputs</source>
-        <translation type="unfinished"></translation>
+        <translation>Etykiety i pola</translation>
     </message>
     <message>
         <source>Named palette</source>
-        <translation type="unfinished"></translation>
+        <translation>Paleta nazwanych kolorów</translation>
     </message>
     <message>
         <source>Pens and lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Pióra i linie</translation>
     </message>
     <message>
         <source>Selection frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Ramki zaznaczenia</translation>
     </message>
     <message>
         <source>Tiles and title bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Kafelki i paski tytułu</translation>
     </message>
     <message>
         <source>Walkthrough</source>
-        <translation type="unfinished"></translation>
+        <translation>Przewodnik</translation>
     </message>
     <message>
         <source>Widget renderer</source>
-        <translation type="unfinished"></translation>
+        <translation>Rysowanie widżetów</translation>
     </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
     <message>
         <source>Click a colour to open its popup; the note takes the new colour while you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknij kolor, aby otworzyć jego okienko; karteczka przyjmuje nowy kolor już podczas wybierania.</translation>
     </message>
     <message>
         <source>Buy milk, feed the cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Kupić mleko, nakarmić kota</translation>
     </message>
     <message>
         <source>Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>Papier</translation>
     </message>
     <message>
         <source>Ink</source>
-        <translation type="unfinished"></translation>
+        <translation>Atrament</translation>
     </message>
     <message>
         <source>Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Zakreślacz</translation>
     </message>
     <message>
         <source>Drag a colour from the palette to one of the twelve slots above it. The slots are shared: open another picker and find the colour there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Przeciągnij kolor z palety na jedno z dwunastu pól nad nią. Pola są wspólne: otwórz inny wybór koloru, a znajdziesz tam ten kolor.</translation>
     </message>
     <message>
         <source>Opacity of the marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Krycie zakreślacza</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Włączone</translation>
     </message>
     <message>
         <source>Random colours</source>
-        <translation type="unfinished"></translation>
+        <translation>Losowe kolory</translation>
     </message>
     <message>
         <source>A colour that is set by the program makes no signal.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolor ustawiony przez program nie wysyła sygnału.</translation>
     </message>
     <message>
         <source>Open popup here</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz okienko tutaj</translation>
     </message>
 </context>
 <context>
     <name>Gallery::ComboBoxesPage</name>
     <message>
         <source>Combo boxes that are narrower than their items. Turn the wheel over the form, open the lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pola kombi węższe od swoich pozycji. Kręć kółkiem nad formularzem, otwieraj listy.</translation>
     </message>
     <message>
         <source>Narrow box</source>
-        <translation type="unfinished"></translation>
+        <translation>Wąskie pole</translation>
     </message>
     <message>
         <source>Elided text and wide popup</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrócony tekst i szeroka lista</translation>
     </message>
     <message>
         <source>Row %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiersz %1</translation>
     </message>
     <message>
         <source>No wheel in a scrolling form</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez kółka w przewijanym formularzu</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Cofnij</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Wytnij</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiuj</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Wklej</translation>
     </message>
     <message>
         <source>Box with separators</source>
-        <translation type="unfinished"></translation>
+        <translation>Pole z separatorami</translation>
     </message>
     <message>
         <source>Separators</source>
-        <translation type="unfinished"></translation>
+        <translation>Separatory</translation>
     </message>
     <message>
         <source>A preset with a rather long name</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustawienie o dość długiej nazwie</translation>
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustawienia</translation>
     </message>
     <message>
         <source>Calm</source>
-        <translation type="unfinished"></translation>
+        <translation>Spokojne</translation>
     </message>
     <message>
         <source>Bright</source>
-        <translation type="unfinished"></translation>
+        <translation>Jasne</translation>
     </message>
     <message>
         <source>Night</source>
-        <translation type="unfinished"></translation>
+        <translation>Noc</translation>
     </message>
     <message>
         <source>Preset panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Panel ustawień</translation>
     </message>
     <message>
         <source>Wide popup</source>
-        <translation type="unfinished"></translation>
+        <translation>Szeroka lista</translation>
     </message>
     <message>
         <source>Mouse wheel</source>
-        <translation type="unfinished"></translation>
+        <translation>Kółko myszy</translation>
     </message>
     <message>
         <source>Elide text</source>
-        <translation type="unfinished"></translation>
+        <translation>Skracaj tekst</translation>
     </message>
     <message>
         <source>Tool tip:</source>
-        <translation type="unfinished"></translation>
+        <translation>Podpowiedź:</translation>
     </message>
     <message>
         <source>Styled separators</source>
-        <translation type="unfinished"></translation>
+        <translation>Separatory ze stylem</translation>
     </message>
     <message>
         <source>Preset icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Ikona ustawienia</translation>
     </message>
     <message>
         <source>Short</source>
-        <translation type="unfinished"></translation>
+        <translation>Krótki</translation>
     </message>
     <message>
         <source>An item whose text is much longer than the box</source>
-        <translation type="unfinished"></translation>
+        <translation>Pozycja, której tekst jest dużo dłuższy niż pole</translation>
     </message>
     <message>
         <source>Another one that does not fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeszcze jedna, która się nie mieści</translation>
     </message>
 </context>
 <context>
     <name>Gallery::DropAndDragPage</name>
     <message>
         <source>Drop files from a file manager: one observer takes pictures, the other texts, and each hears of everything that is dropped. Drag the panel by any point, its button included: what was dragged is not clicked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Upuść pliki z menedżera plików: jeden obserwator przyjmuje obrazy, drugi teksty, a każdy dowiaduje się o wszystkim, co upuszczono. Przeciągaj panel za dowolny punkt, także za jego przycisk: to, co przeciągnięto, nie zostaje kliknięte.</translation>
     </message>
     <message>
         <source>Pictures are welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrazy mile widziane</translation>
     </message>
     <message>
         <source>Texts are welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Teksty mile widziane</translation>
     </message>
     <message>
         <source>Drop pictures or texts here</source>
-        <translation type="unfinished"></translation>
+        <translation>Upuść tu obrazy lub teksty</translation>
     </message>
     <message>
         <source>Drag me anywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Przeciągnij mnie dokądkolwiek</translation>
     </message>
     <message>
         <source>Click me</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknij mnie</translation>
     </message>
 </context>
 <context>
     <name>Gallery::EventHelpersPage</name>
     <message>
         <source>Scribble on the pad: the lamps below show the signals that the helpers make of its events. Without propagation the signals still come, but the pad itself sees no mouse any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bazgraj po bloku: lampki poniżej pokazują sygnały, które pomocnicy tworzą z jego zdarzeń. Bez przekazywania sygnały nadal przychodzą, ale sam blok nie widzi już myszy.</translation>
     </message>
     <message>
         <source>Scribble here</source>
-        <translation type="unfinished"></translation>
+        <translation>Bazgraj tutaj</translation>
     </message>
     <message>
         <source>Events go on to the pad</source>
-        <translation type="unfinished"></translation>
+        <translation>Zdarzenia docierają do bloku</translation>
     </message>
     <message>
         <source>Hover events</source>
-        <translation type="unfinished"></translation>
+        <translation>Zdarzenia najechania</translation>
     </message>
     <message>
         <source>Moves without a button</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruchy bez przycisku</translation>
     </message>
     <message>
         <source>Wipe the pad</source>
-        <translation type="unfinished"></translation>
+        <translation>Wyczyść blok</translation>
     </message>
     <message>
         <source>Drop it here</source>
-        <translation type="unfinished"></translation>
+        <translation>Upuść to tutaj</translation>
     </message>
     <message>
         <source>Drag this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Przeciągnij ten tekst</translation>
     </message>
     <message>
         <source>Drop field is guarded</source>
-        <translation type="unfinished"></translation>
+        <translation>Pole upuszczania jest chronione</translation>
     </message>
     <message>
         <source>Window stays on top</source>
-        <translation type="unfinished"></translation>
+        <translation>Okno zawsze na wierzchu</translation>
     </message>
 </context>
 <context>
     <name>Gallery::EyedropperPage</name>
     <message>
         <source>Press the button, then click into the picture: the button takes the colour under the cursor. Any key picks as well; a click elsewhere ends it without a colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>Naciśnij przycisk, a potem kliknij obraz: przycisk przyjmie kolor spod kursora. Wybiera też każdy klawisz; kliknięcie gdzie indziej kończy bez koloru.</translation>
     </message>
     <message>
         <source>Pick a colour from the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Pobierz kolor z obrazu</translation>
     </message>
     <message>
         <source>Button shows the colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Przycisk pokazuje kolor</translation>
     </message>
     <message>
         <source>Picture is the target</source>
-        <translation type="unfinished"></translation>
+        <translation>Obraz jest celem</translation>
     </message>
 </context>
 <context>
     <name>Gallery::FormattingPage</name>
     <message>
         <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sformatuj próbkę za pomocą dwóch pasków. Ich ikony pochodzą z arkusza stylów strony, który wybiera przyciski według właściwości „styleTag”.</translation>
     </message>
     <message>
         <source>The quick brown fox jumps over the lazy dog, and the dog, being lazy, lets it jump as often as it likes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Szybki brązowy lis skacze nad leniwym psem, a pies, jak to leniwy, pozwala mu skakać, ile zechce.</translation>
     </message>
     <message>
         <source>Plain font</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwykła czcionka</translation>
     </message>
     <message>
         <source>The program sets a font: a signal for each toggle that changes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Program ustawia czcionkę: sygnał dla każdego przełącznika, który się zmienia.</translation>
     </message>
     <message>
         <source>Set to left</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustaw do lewej</translation>
     </message>
     <message>
         <source>The program checks a button: no signal, and the sample stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Program zaznacza przycisk: bez sygnału, a próbka pozostaje bez zmian.</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Włączone</translation>
     </message>
 </context>
 <context>
     <name>Gallery::FrameOverWindowPage</name>
     <message>
         <source>The window below goes on living while the frame lies over it. In edit mode the mouse moves the frame; otherwise it reaches the window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Okno poniżej żyje dalej, gdy leży na nim ramka. W trybie edycji mysz przesuwa ramkę; poza nim dociera do okna.</translation>
     </message>
     <message>
         <source>Type here while edit mode is off</source>
-        <translation type="unfinished"></translation>
+        <translation>Pisz tutaj poza trybem edycji</translation>
     </message>
     <message>
         <source>Press here while edit mode is off</source>
-        <translation type="unfinished"></translation>
+        <translation>Naciskaj tutaj poza trybem edycji</translation>
     </message>
     <message>
         <source>A window with its own life</source>
-        <translation type="unfinished"></translation>
+        <translation>Okno żyjące własnym życiem</translation>
     </message>
     <message>
         <source>From %1 %, %2 %: %3 % wide, %4 % high</source>
         <comment>position and size of the frame</comment>
-        <translation type="unfinished"></translation>
+        <translation>Od %1 %, %2 %: szerokość %3 %, wysokość %4 %</translation>
     </message>
     <message>
         <source>Edit mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Tryb edycji</translation>
     </message>
     <message>
         <source>Keep the ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Zachowaj proporcje</translation>
     </message>
     <message>
         <source>Work rect</source>
-        <translation type="unfinished"></translation>
+        <translation>Obszar roboczy</translation>
     </message>
     <message>
         <source>Veil</source>
-        <translation type="unfinished"></translation>
+        <translation>Zasłona</translation>
     </message>
 </context>
 <context>
     <name>Gallery::GalleryHint</name>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Dalej</translation>
     </message>
     <message>
         <source>Not now</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie teraz</translation>
     </message>
     <message>
         <source>Never again</source>
-        <translation type="unfinished"></translation>
+        <translation>Nigdy więcej</translation>
     </message>
 </context>
 <context>
     <name>Gallery::LabelsAndInputsPage</name>
     <message>
         <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Przeciągnij uchwyt, aby zwęzić kolumnę po jego lewej stronie: etykiety i pole tekstowe skracają swoje teksty i podają je w całości w podpowiedziach. Podczas edycji pole pokazuje cały tekst.</translation>
     </message>
     <message>
         <source>A file name that is much too long for a column as narrow as this one.txt</source>
-        <translation type="unfinished"></translation>
+        <translation>Nazwa pliku o wiele za długa na kolumnę tak wąską jak ta.txt</translation>
     </message>
     <message>
         <source>Mixed directions: %1, elided in order</source>
-        <translation type="unfinished"></translation>
+        <translation>Mieszane kierunki: %1, skrócone po kolei</translation>
     </message>
     <message>
         <source>Short</source>
-        <translation type="unfinished"></translation>
+        <translation>Krótki</translation>
     </message>
     <message>
         <source>Drag the handle at the edge of this field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Przeciągnij uchwyt na brzegu tego pola.</translation>
     </message>
     <message>
         <source>Press here, with any button</source>
-        <translation type="unfinished"></translation>
+        <translation>Naciśnij tutaj dowolnym przyciskiem</translation>
     </message>
     <message>
         <source>Clipped text</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrócony tekst</translation>
     </message>
     <message>
         <source>A text that is shown whole while you edit it, and elided while you do not</source>
-        <translation type="unfinished"></translation>
+        <translation>Tekst widoczny w całości podczas edycji, a poza nią skrócony</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notatki</translation>
     </message>
     <message>
         <source>Labels report presses</source>
-        <translation type="unfinished"></translation>
+        <translation>Etykiety zgłaszają kliknięcia</translation>
     </message>
     <message>
         <source>Labels elide their texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Etykiety skracają teksty</translation>
     </message>
     <message>
         <source>at the end</source>
-        <translation type="unfinished"></translation>
+        <translation>na końcu</translation>
     </message>
     <message>
         <source>in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>pośrodku</translation>
     </message>
     <message>
         <source>at the beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>na początku</translation>
     </message>
     <message>
         <source>Elide</source>
-        <translation type="unfinished"></translation>
+        <translation>Skracanie</translation>
     </message>
     <message>
         <source>What do you think of it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Co o tym sądzisz?</translation>
     </message>
     <message>
         <source>Placeholder</source>
-        <translation type="unfinished"></translation>
+        <translation>Tekst zastępczy</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Liczba</translation>
     </message>
     <message>
         <source>Digits at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Najwięcej cyfr</translation>
     </message>
 </context>
 <context>
     <name>Gallery::MainWindow</name>
     <message>
         <source>KQtUi gallery</source>
-        <translation type="unfinished"></translation>
+        <translation>Galeria KQtUi</translation>
     </message>
     <message>
         <source>&amp;Find a page</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Znajdź stronę</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Za&amp;kończ</translation>
     </message>
     <message>
         <source>&amp;Dark palette</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ciemna paleta</translation>
     </message>
     <message>
         <source>&amp;Right to left</source>
-        <translation type="unfinished"></translation>
+        <translation>Od &amp;prawej do lewej</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Plik</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Widok</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Język</translation>
     </message>
     <message>
         <source>Language: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Język: %1</translation>
     </message>
 </context>
 <context>
     <name>Gallery::NamedPalettePage</name>
     <message>
         <source>Click the button: a default colour, forty named colours, and a dialog behind &quot;More...&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknij przycisk: kolor domyślny, czterdzieści nazwanych kolorów i okno dialogowe pod „Więcej...”.</translation>
     </message>
     <message>
         <source>Colour</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolor</translation>
     </message>
     <message>
         <source>While its popup is open the picker&apos;s property &quot;pressed&quot; is true: the page&apos;s style sheet gives it a thick border then.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gdy paleta jest otwarta, właściwość „pressed” przycisku jest prawdziwa: arkusz stylów strony nadaje mu wtedy grubą ramkę.</translation>
     </message>
     <message>
         <source>Colorized</source>
-        <translation type="unfinished"></translation>
+        <translation>Zabarwiony</translation>
     </message>
     <message>
         <source>Dark popup</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciemna paleta</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Włączone</translation>
     </message>
     <message>
         <source>Make it the default</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustaw jako domyślny</translation>
     </message>
     <message>
         <source>The popup&apos;s &quot;Default&quot; button chooses this colour from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Przycisk „Domyślny” palety wybiera odtąd ten kolor.</translation>
     </message>
 </context>
 <context>
     <name>Gallery::Page</name>
     <message>
         <source>Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Właściwości</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Wyczyść</translation>
     </message>
     <message>
         <source>Signals</source>
-        <translation type="unfinished"></translation>
+        <translation>Sygnały</translation>
     </message>
 </context>
 <context>
     <name>Gallery::PageList</name>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtruj</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Strony</translation>
     </message>
 </context>
 <context>
     <name>Gallery::PensAndLinesPage</name>
     <message>
         <source>Pens, lines and opacity: each group draws what its boxes say.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pióra, linie i krycie: każda grupa rysuje to, co mówią jej pola.</translation>
     </message>
     <message>
         <source>Pen picker</source>
-        <translation type="unfinished"></translation>
+        <translation>Wybór pióra</translation>
     </message>
     <message>
         <source>Line style</source>
-        <translation type="unfinished"></translation>
+        <translation>Styl linii</translation>
     </message>
     <message>
         <source>Line width</source>
-        <translation type="unfinished"></translation>
+        <translation>Grubość linii</translation>
     </message>
     <message>
         <source>Line style and line width</source>
-        <translation type="unfinished"></translation>
+        <translation>Styl i grubość linii</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Krycie</translation>
     </message>
     <message>
         <source>Opacity adapter</source>
-        <translation type="unfinished"></translation>
+        <translation>Adapter krycia</translation>
     </message>
     <message>
         <source>Value: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartość: %1</translation>
     </message>
     <message>
         <source>Slider with a zero tick</source>
-        <translation type="unfinished"></translation>
+        <translation>Suwak ze znacznikiem zera</translation>
     </message>
     <message>
         <source>Coloured tick</source>
-        <translation type="unfinished"></translation>
+        <translation>Barwny znacznik</translation>
     </message>
     <message>
         <source>Enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Włączone</translation>
     </message>
 </context>
 <context>
     <name>Gallery::SelectionFramesPage</name>
     <message>
         <source>Drag the frames, their corners and their sides. The small picture is what the frames are rendered to, with its alpha.</source>
-        <translation type="unfinished"></translation>
+        <translation>Przeciągaj ramki, ich rogi i boki. Mały obraz to wynik rysowania ramek wraz z kanałem alfa.</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Obraz</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Tekst</translation>
     </message>
     <message>
         <source>Region</source>
-        <translation type="unfinished"></translation>
+        <translation>Obszar</translation>
     </message>
     <message>
         <source>Holiday by the sea</source>
-        <translation type="unfinished"></translation>
+        <translation>Wakacje nad morzem</translation>
     </message>
     <message>
         <source>Picture keeps its ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Obraz zachowuje proporcje</translation>
     </message>
     <message>
         <source>Region keeps its ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Obszar zachowuje proporcje</translation>
     </message>
     <message>
         <source>Work rect</source>
-        <translation type="unfinished"></translation>
+        <translation>Obszar roboczy</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Przezroczystość</translation>
     </message>
     <message>
         <source>Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>Wypełnienie</translation>
     </message>
     <message>
         <source>Outline</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontur</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>Czcionka</translation>
     </message>
 </context>
 <context>
     <name>Gallery::SignalLog</name>
     <message>
         <source>Signals appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutaj pojawiają się sygnały.</translation>
     </message>
 </context>
 <context>
     <name>Gallery::TilesPage</name>
     <message>
         <source>Tiles with a star, a play button and a duration over a picture; and a panel whose title bar can be dragged, detached and closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kafelki z gwiazdką, przyciskiem odtwarzania i czasem trwania na obrazie; oraz panel, którego pasek tytułu można przeciągać, odpinać i zamykać.</translation>
     </message>
     <message>
         <source>Sunrise</source>
-        <translation type="unfinished"></translation>
+        <translation>Wschód słońca</translation>
     </message>
     <message>
         <source>Noon</source>
-        <translation type="unfinished"></translation>
+        <translation>Południe</translation>
     </message>
     <message>
         <source>Sunset</source>
-        <translation type="unfinished"></translation>
+        <translation>Zachód słońca</translation>
     </message>
     <message>
         <source>Night</source>
-        <translation type="unfinished"></translation>
+        <translation>Noc</translation>
     </message>
     <message>
         <source>Pin playlist</source>
-        <translation type="unfinished"></translation>
+        <translation>Przypnij listę odtwarzania</translation>
     </message>
     <message>
         <source>Unpin playlist</source>
-        <translation type="unfinished"></translation>
+        <translation>Odepnij listę odtwarzania</translation>
     </message>
     <message>
         <source>Stars</source>
-        <translation type="unfinished"></translation>
+        <translation>Gwiazdki</translation>
     </message>
     <message>
         <source>Play buttons</source>
-        <translation type="unfinished"></translation>
+        <translation>Przyciski odtwarzania</translation>
     </message>
     <message>
         <source>Clips can be played</source>
-        <translation type="unfinished"></translation>
+        <translation>Klipy można odtwarzać</translation>
     </message>
     <message>
         <source>Styled as floating</source>
-        <translation type="unfinished"></translation>
+        <translation>Styl pływający</translation>
     </message>
     <message>
         <source>Show the panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokaż panel</translation>
     </message>
 </context>
 <context>
     <name>Gallery::Tour</name>
     <message>
         <source>Welcome to the gallery</source>
-        <translation type="unfinished"></translation>
+        <translation>Witamy w galerii</translation>
     </message>
     <message>
         <source>Every family of components has a page of its own, and all of them are alive. The tour shows you around in a minute.</source>
-        <translation type="unfinished"></translation>
+        <translation>Każda rodzina komponentów ma własną stronę i wszystkie są żywe. Przewodnik oprowadzi po nich w minutę.</translation>
     </message>
     <message>
         <source>Find a page</source>
-        <translation type="unfinished"></translation>
+        <translation>Znajdź stronę</translation>
     </message>
     <message>
         <source>Type part of a title. The arrow keys move through the pages that are left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wpisz część tytułu. Klawisze strzałek przechodzą przez pozostałe strony.</translation>
     </message>
     <message>
         <source>Dark, and from right to left</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciemno i od prawej do lewej</translation>
     </message>
     <message>
         <source>These two switches are one target: the frame goes round both. This hint stays clear of the filter, so that you can go on typing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Te dwa przełączniki są jednym celem: ramka otacza oba. Ta wskazówka nie zasłania pola filtru, więc można pisać dalej.</translation>
     </message>
     <message>
         <source>In your language</source>
-        <translation type="unfinished"></translation>
+        <translation>W Twoim języku</translation>
     </message>
     <message>
         <source>The texts change at once, those of this hint as well. Clicking what a hint points at takes you on, just as Next does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Teksty zmieniają się od razu, także w tej wskazówce. Kliknięcie tego, co wskazuje wskazówka, prowadzi dalej, tak jak Dalej.</translation>
     </message>
     <message>
         <source>Open a page</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwórz stronę</translation>
     </message>
     <message>
         <source>Choose &quot;Walkthrough&quot; in the list. The last hint waits for that page to be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wybierz z listy „Przewodnik”. Ostatnia wskazówka czeka na otwarcie tej strony.</translation>
     </message>
     <message>
         <source>How the tour works</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak działa przewodnik</translation>
     </message>
     <message>
         <source>A walkthrough is a machine of named states. Here you see another one at work, and can drive it yourself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Przewodnik to maszyna nazwanych stanów. Tutaj widać inną przy pracy i można nią sterować samodzielnie.</translation>
     </message>
 </context>
 <context>
     <name>Gallery::WalkthroughPage</name>
     <message>
         <source>One target</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden cel</translation>
     </message>
     <message>
         <source>Press the button, or Next.</source>
-        <translation type="unfinished"></translation>
+        <translation>Naciśnij przycisk albo Dalej.</translation>
     </message>
     <message>
         <source>Two targets</source>
-        <translation type="unfinished"></translation>
+        <translation>Dwa cele</translation>
     </message>
     <message>
         <source>Hide one with the switches: the frame follows. Hide both, and the hint goes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukryj jeden przełącznikami: ramka podąży za zmianą. Ukryj oba, a wskazówka zniknie.</translation>
     </message>
     <message>
         <source>A small tour of its own. Start it, hide its targets, or enter a state by double-clicking it: the lists show the machine&apos;s groups, and what each hint still waits for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mały, osobny przewodnik. Uruchom go, ukryj jego cele albo wejdź w stan podwójnym kliknięciem: listy pokazują grupy maszyny i to, na co jeszcze czeka każda wskazówka.</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisz</translation>
     </message>
     <message>
         <source>Left lamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Lewa lampka</translation>
     </message>
     <message>
         <source>Right lamp</source>
-        <translation type="unfinished"></translation>
+        <translation>Prawa lampka</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupa</translation>
     </message>
     <message>
         <source>Active state</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktywny stan</translation>
     </message>
     <message>
         <source>Groups and states</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupy i stany</translation>
     </message>
     <message>
         <source>Hint</source>
-        <translation type="unfinished"></translation>
+        <translation>Wskazówka</translation>
     </message>
     <message>
         <source>Unmet conditions</source>
-        <translation type="unfinished"></translation>
+        <translation>Niespełnione warunki</translation>
     </message>
     <message>
         <source>Waits for</source>
-        <translation type="unfinished"></translation>
+        <translation>Czeka na</translation>
     </message>
     <message>
         <source>Hints</source>
-        <translation type="unfinished"></translation>
+        <translation>Wskazówki</translation>
     </message>
     <message>
         <source>Start the tour</source>
-        <translation type="unfinished"></translation>
+        <translation>Uruchom przewodnik</translation>
     </message>
     <message>
         <source>Stop the tour</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatrzymaj przewodnik</translation>
     </message>
     <message>
         <source>Hints enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Wskazówki włączone</translation>
     </message>
     <message>
         <source>Save is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Przycisk Zapisz widoczny</translation>
     </message>
     <message>
         <source>Left lamp is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Lewa lampka widoczna</translation>
     </message>
     <message>
         <source>Right lamp is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Prawa lampka widoczna</translation>
     </message>
     <message>
         <source>Hints avoid the list of hints</source>
-        <translation type="unfinished"></translation>
+        <translation>Wskazówki omijają swoją listę</translation>
     </message>
     <message>
         <source>entered %1</source>
-        <translation type="unfinished"></translation>
+        <translation>wejście do %1</translation>
     </message>
 </context>
 <context>
     <name>Gallery::WidgetRendererPage</name>
     <message>
         <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
-        <translation type="unfinished"></translation>
+        <translation>Widżety po lewej są rysowane w obrazie po prawej i wycinane ze swojego okna. Wycięte nadal reagują na mysz.</translation>
     </message>
     <message>
         <source>Compose</source>
-        <translation type="unfinished"></translation>
+        <translation>Złóż</translation>
     </message>
     <message>
         <source>Give back</source>
-        <translation type="unfinished"></translation>
+        <translation>Oddaj</translation>
     </message>
     <message>
         <source>Button</source>
-        <translation type="unfinished"></translation>
+        <translation>Przycisk</translation>
     </message>
     <message>
         <source>Check box</source>
-        <translation type="unfinished"></translation>
+        <translation>Pole wyboru</translation>
     </message>
 </context>
 </TS>
