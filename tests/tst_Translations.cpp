@@ -125,6 +125,7 @@ QStringList readableTexts()
         }
     }
     texts.removeAll(QString());
+    texts.removeDuplicates();
     texts.sort();
     return texts;
 }

@@ -302,6 +302,18 @@
         <source>Picture is the target</source>
         <translation>الصورة هي الهدف</translation>
     </message>
+    <message>
+        <source>Frame round the picture</source>
+        <translation>إطار حول الصورة</translation>
+    </message>
+    <message>
+        <source>Pick without the button</source>
+        <translation>التقاط بدون الزر</translation>
+    </message>
+    <message>
+        <source>The program waits for the colour.</source>
+        <translation>البرنامج ينتظر اللون.</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::FormattingPage</name>
@@ -556,16 +568,24 @@
         <source>Signals</source>
         <translation>الإشارات</translation>
     </message>
+    <message>
+        <source>Code</source>
+        <translation>الشيفرة</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>نسخ</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::PageList</name>
     <message>
-        <source>Filter</source>
-        <translation>تصفية</translation>
-    </message>
-    <message>
         <source>Pages</source>
         <translation>الصفحات</translation>
+    </message>
+    <message>
+        <source>Title or component</source>
+        <translation>عنوان أو مكوّن</translation>
     </message>
 </context>
 <context>

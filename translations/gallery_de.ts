@@ -302,6 +302,18 @@
         <source>Picture is the target</source>
         <translation>Bild ist das Ziel</translation>
     </message>
+    <message>
+        <source>Frame round the picture</source>
+        <translation>Rahmen um das Bild</translation>
+    </message>
+    <message>
+        <source>Pick without the button</source>
+        <translation>Ohne den Knopf wählen</translation>
+    </message>
+    <message>
+        <source>The program waits for the colour.</source>
+        <translation>Das Programm wartet auf die Farbe.</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::FormattingPage</name>
@@ -556,16 +568,24 @@
         <source>Signals</source>
         <translation>Signale</translation>
     </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::PageList</name>
     <message>
-        <source>Filter</source>
-        <translation>Filtern</translation>
-    </message>
-    <message>
         <source>Pages</source>
         <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Title or component</source>
+        <translation>Titel oder Bauteil</translation>
     </message>
 </context>
 <context>

@@ -302,6 +302,18 @@
         <source>Picture is the target</source>
         <translation>La imagen es el destino</translation>
     </message>
+    <message>
+        <source>Frame round the picture</source>
+        <translation>Marco alrededor de la imagen</translation>
+    </message>
+    <message>
+        <source>Pick without the button</source>
+        <translation>Tomar sin el botón</translation>
+    </message>
+    <message>
+        <source>The program waits for the colour.</source>
+        <translation>El programa espera el color.</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::FormattingPage</name>
@@ -556,16 +568,24 @@
         <source>Signals</source>
         <translation>Señales</translation>
     </message>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::PageList</name>
     <message>
-        <source>Filter</source>
-        <translation>Filtrar</translation>
-    </message>
-    <message>
         <source>Pages</source>
         <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>Title or component</source>
+        <translation>Título o componente</translation>
     </message>
 </context>
 <context>

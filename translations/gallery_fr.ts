@@ -302,6 +302,18 @@
         <source>Picture is the target</source>
         <translation>L&apos;image est la cible</translation>
     </message>
+    <message>
+        <source>Frame round the picture</source>
+        <translation>Cadre autour de l&apos;image</translation>
+    </message>
+    <message>
+        <source>Pick without the button</source>
+        <translation>Prélever sans le bouton</translation>
+    </message>
+    <message>
+        <source>The program waits for the colour.</source>
+        <translation>Le programme attend la couleur.</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::FormattingPage</name>
@@ -556,16 +568,24 @@
         <source>Signals</source>
         <translation>Signaux</translation>
     </message>
+    <message>
+        <source>Code</source>
+        <translation>Code</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::PageList</name>
     <message>
-        <source>Filter</source>
-        <translation>Filtrer</translation>
-    </message>
-    <message>
         <source>Pages</source>
         <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Title or component</source>
+        <translation>Titre ou composant</translation>
     </message>
 </context>
 <context>

@@ -302,6 +302,18 @@
         <source>Picture is the target</source>
         <translation>התמונה היא היעד</translation>
     </message>
+    <message>
+        <source>Frame round the picture</source>
+        <translation>מסגרת סביב התמונה</translation>
+    </message>
+    <message>
+        <source>Pick without the button</source>
+        <translation>בחירה בלי הכפתור</translation>
+    </message>
+    <message>
+        <source>The program waits for the colour.</source>
+        <translation>התוכנית ממתינה לצבע.</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::FormattingPage</name>
@@ -556,16 +568,24 @@
         <source>Signals</source>
         <translation>אותות</translation>
     </message>
+    <message>
+        <source>Code</source>
+        <translation>קוד</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>העתקה</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::PageList</name>
     <message>
-        <source>Filter</source>
-        <translation>סינון</translation>
-    </message>
-    <message>
         <source>Pages</source>
         <translation>דפים</translation>
+    </message>
+    <message>
+        <source>Title or component</source>
+        <translation>כותרת או רכיב</translation>
     </message>
 </context>
 <context>

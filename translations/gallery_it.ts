@@ -302,6 +302,18 @@
         <source>Picture is the target</source>
         <translation>L&apos;immagine è la destinazione</translation>
     </message>
+    <message>
+        <source>Frame round the picture</source>
+        <translation>Cornice attorno all&apos;immagine</translation>
+    </message>
+    <message>
+        <source>Pick without the button</source>
+        <translation>Preleva senza il pulsante</translation>
+    </message>
+    <message>
+        <source>The program waits for the colour.</source>
+        <translation>Il programma aspetta il colore.</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::FormattingPage</name>
@@ -556,16 +568,24 @@
         <source>Signals</source>
         <translation>Segnali</translation>
     </message>
+    <message>
+        <source>Code</source>
+        <translation>Codice</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::PageList</name>
     <message>
-        <source>Filter</source>
-        <translation>Filtra</translation>
-    </message>
-    <message>
         <source>Pages</source>
         <translation>Pagine</translation>
+    </message>
+    <message>
+        <source>Title or component</source>
+        <translation>Titolo o componente</translation>
     </message>
 </context>
 <context>

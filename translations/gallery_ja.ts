@@ -302,6 +302,18 @@
         <source>Picture is the target</source>
         <translation>画像を対象にする</translation>
     </message>
+    <message>
+        <source>Frame round the picture</source>
+        <translation>画像を囲む枠</translation>
+    </message>
+    <message>
+        <source>Pick without the button</source>
+        <translation>ボタンを使わずに選ぶ</translation>
+    </message>
+    <message>
+        <source>The program waits for the colour.</source>
+        <translation>プログラムは色を待っています。</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::FormattingPage</name>
@@ -556,16 +568,24 @@
         <source>Signals</source>
         <translation>シグナル</translation>
     </message>
+    <message>
+        <source>Code</source>
+        <translation>コード</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::PageList</name>
     <message>
-        <source>Filter</source>
-        <translation>絞り込み</translation>
-    </message>
-    <message>
         <source>Pages</source>
         <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Title or component</source>
+        <translation>タイトルまたはコンポーネント</translation>
     </message>
 </context>
 <context>

@@ -302,6 +302,18 @@
         <source>Picture is the target</source>
         <translation>Obraz jest celem</translation>
     </message>
+    <message>
+        <source>Frame round the picture</source>
+        <translation>Ramka wokół obrazu</translation>
+    </message>
+    <message>
+        <source>Pick without the button</source>
+        <translation>Pobierz bez przycisku</translation>
+    </message>
+    <message>
+        <source>The program waits for the colour.</source>
+        <translation>Program czeka na kolor.</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::FormattingPage</name>
@@ -556,16 +568,24 @@
         <source>Signals</source>
         <translation>Sygnały</translation>
     </message>
+    <message>
+        <source>Code</source>
+        <translation>Kod</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiuj</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::PageList</name>
     <message>
-        <source>Filter</source>
-        <translation>Filtruj</translation>
-    </message>
-    <message>
         <source>Pages</source>
         <translation>Strony</translation>
+    </message>
+    <message>
+        <source>Title or component</source>
+        <translation>Tytuł lub komponent</translation>
     </message>
 </context>
 <context>

@@ -302,6 +302,18 @@
         <source>Picture is the target</source>
         <translation>A imagem é o alvo</translation>
     </message>
+    <message>
+        <source>Frame round the picture</source>
+        <translation>Moldura em volta da imagem</translation>
+    </message>
+    <message>
+        <source>Pick without the button</source>
+        <translation>Pegar sem o botão</translation>
+    </message>
+    <message>
+        <source>The program waits for the colour.</source>
+        <translation>O programa espera pela cor.</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::FormattingPage</name>
@@ -556,16 +568,24 @@
         <source>Signals</source>
         <translation>Sinais</translation>
     </message>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::PageList</name>
     <message>
-        <source>Filter</source>
-        <translation>Filtrar</translation>
-    </message>
-    <message>
         <source>Pages</source>
         <translation>Páginas</translation>
+    </message>
+    <message>
+        <source>Title or component</source>
+        <translation>Título ou componente</translation>
     </message>
 </context>
 <context>

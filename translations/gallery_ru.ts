@@ -302,6 +302,18 @@
         <source>Picture is the target</source>
         <translation>Цель — изображение</translation>
     </message>
+    <message>
+        <source>Frame round the picture</source>
+        <translation>Рамка вокруг изображения</translation>
+    </message>
+    <message>
+        <source>Pick without the button</source>
+        <translation>Взять без кнопки</translation>
+    </message>
+    <message>
+        <source>The program waits for the colour.</source>
+        <translation>Программа ждёт цвет.</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::FormattingPage</name>
@@ -556,16 +568,24 @@
         <source>Signals</source>
         <translation>Сигналы</translation>
     </message>
+    <message>
+        <source>Code</source>
+        <translation>Код</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::PageList</name>
     <message>
-        <source>Filter</source>
-        <translation>Фильтр</translation>
-    </message>
-    <message>
         <source>Pages</source>
         <translation>Страницы</translation>
+    </message>
+    <message>
+        <source>Title or component</source>
+        <translation>Название или компонент</translation>
     </message>
 </context>
 <context>

@@ -302,6 +302,18 @@
         <source>Picture is the target</source>
         <translation>Ціль — зображення</translation>
     </message>
+    <message>
+        <source>Frame round the picture</source>
+        <translation>Рамка навколо зображення</translation>
+    </message>
+    <message>
+        <source>Pick without the button</source>
+        <translation>Узяти без кнопки</translation>
+    </message>
+    <message>
+        <source>The program waits for the colour.</source>
+        <translation>Програма чекає на колір.</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::FormattingPage</name>
@@ -556,16 +568,24 @@
         <source>Signals</source>
         <translation>Сигнали</translation>
     </message>
+    <message>
+        <source>Code</source>
+        <translation>Код</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копіювати</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::PageList</name>
     <message>
-        <source>Filter</source>
-        <translation>Фільтр</translation>
-    </message>
-    <message>
         <source>Pages</source>
         <translation>Сторінки</translation>
+    </message>
+    <message>
+        <source>Title or component</source>
+        <translation>Назва або компонент</translation>
     </message>
 </context>
 <context>

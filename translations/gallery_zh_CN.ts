@@ -302,6 +302,18 @@
         <source>Picture is the target</source>
         <translation>以图片为目标</translation>
     </message>
+    <message>
+        <source>Frame round the picture</source>
+        <translation>图片周围的框</translation>
+    </message>
+    <message>
+        <source>Pick without the button</source>
+        <translation>不用按钮取色</translation>
+    </message>
+    <message>
+        <source>The program waits for the colour.</source>
+        <translation>程序在等待颜色。</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::FormattingPage</name>
@@ -556,16 +568,24 @@
         <source>Signals</source>
         <translation>信号</translation>
     </message>
+    <message>
+        <source>Code</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::PageList</name>
     <message>
-        <source>Filter</source>
-        <translation>筛选</translation>
-    </message>
-    <message>
         <source>Pages</source>
         <translation>页面</translation>
+    </message>
+    <message>
+        <source>Title or component</source>
+        <translation>标题或组件</translation>
     </message>
 </context>
 <context>
