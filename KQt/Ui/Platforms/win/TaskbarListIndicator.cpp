@@ -71,11 +71,9 @@ bool TaskbarListIndicator::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
-bool TaskbarListIndicator::nativeEventFilter(const QByteArray& eventType, void* message, long* /*result*/)
+/// Posted messages may come by twice, which does no harm.
+bool TaskbarListIndicator::nativeEventFilter(const QByteArray& /*eventType*/, void* message, long* /*result*/)
 {
-    // Posted messages come by once more, as "windows_dispatcher_MSG".
-    if (eventType != QByteArrayLiteral("windows_generic_MSG"))
-        return false;
     const MSG* native = static_cast<MSG*>(message);
     if (native->message == buttonCreatedMessage() && native->hwnd && native->hwnd == nativeWindow())
         buttonCreated(native->hwnd);
