@@ -105,6 +105,7 @@ int main(int argc, char* argv[])
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("kqtui-gallery"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KQTUI_VERSION));
+    QGuiApplication::setDesktopFileName(QCoreApplication::applicationName());
     QApplication::setStyle(QStringLiteral("fusion"));
     QApplication::setWindowIcon(applicationIcon());
     applyScheme(Scheme::Light);
