@@ -14,8 +14,11 @@
 #include "widgets/SignalLamp.h"
 
 #include <KQt/Ui/AdvancedColorPicker.h>
+#include <KQt/Ui/ExtendedLabel.h>
+#include <KQt/Ui/StyledDockWidgetTitlebar.h>
 #include <KQt/Ui/WidgetMouseHandler.h>
 
+#include <QAbstractScrollArea>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -83,6 +86,55 @@ QPushButton* pushButton(QWidget& page, const QString& text)
 QString logText(const QWidget& page)
 {
     return page.findChild<SignalLog*>()->toPlainText();
+}
+
+/// Whether no parent cuts the widget off; what scrolls may be out of sight.
+bool isWithinParents(const QWidget& widget)
+{
+    for (const QWidget* parent = widget.parentWidget(); parent; parent = parent->parentWidget()) {
+        if (qobject_cast<QAbstractScrollArea*>(parent->parentWidget()))
+            return true;
+        if (!parent->rect().contains(QRect(widget.mapTo(parent, QPoint()), widget.size())))
+            return false;
+    }
+    return true;
+}
+
+bool hasRoom(const QAbstractButton& button)
+{
+    const QSize needed = button.minimumSizeHint();
+    return button.width() >= needed.width() && button.height() >= needed.height();
+}
+
+bool hasRoom(const QLabel& label)
+{
+    // The bar is as high as it is, whatever the font.
+    if (qobject_cast<const Kestrel::Gui::StyledDockWidgetTitlebar*>(label.parentWidget()->parentWidget()))
+        return true;
+    if (label.hasHeightForWidth())
+        return label.height() >= label.heightForWidth(label.width());
+    const QSize needed = label.minimumSizeHint();
+    // Labels that elide their texts may be as narrow as they like.
+    const bool elides = qobject_cast<const Kestrel::Gui::ExtendedLabel*>(&label) != nullptr;
+    return label.height() >= needed.height() && (elides || label.width() >= needed.width());
+}
+
+/// Texts in a page that cannot be seen whole.
+template <typename Widget>
+QStringList cutOffIn(const QWidget& page)
+{
+    QStringList texts;
+    const auto widgets = page.findChildren<Widget*>();
+    for (const Widget* widget : widgets) {
+        if (widget->isVisible() && !widget->text().isEmpty() && !(hasRoom(*widget) && isWithinParents(*widget)))
+            texts << widget->text();
+    }
+    return texts;
+}
+
+QStringList cutOff(const QWidget& page)
+{
+    return cutOffIn<QAbstractButton>(page) + cutOffIn<QLabel>(page);
 }
 
 QStringList popupTexts(const QWidget* popup)
@@ -168,6 +220,8 @@ private:
 void tst_Gallery::initTestCase()
 {
     QApplication::setStyle(QStringLiteral("fusion"));
+    // As large as on a desktop; the offscreen platform's own is larger than on any.
+    QApplication::setFont(QFont(QStringLiteral("sans-serif"), 10));
 }
 
 void tst_Gallery::cleanup()
@@ -452,24 +506,15 @@ void tst_Gallery::noTextIsCutOff()
     QFETCH(QString, code);
     const auto window = windowWith(pickerSlug);
     window->setLanguage(code);
-    for (const QString& slug : {pickerSlug, eventsSlug}) {
-        window->showPage(slug);
+    for (const PageRegistration& page : registeredPages()) {
+        window->showPage(page.slug());
         QCoreApplication::processEvents();
-        const auto buttons = window->currentFrame()->findChildren<QAbstractButton*>();
-        for (const QAbstractButton* button : buttons) {
-            if (button->text().isEmpty())
-                continue;
-            QVERIFY2(button->width() >= button->minimumSizeHint().width(), qPrintable(button->text()));
-            QVERIFY2(button->height() >= button->minimumSizeHint().height(), qPrintable(button->text()));
-        }
-        const auto labels = window->currentFrame()->findChildren<QLabel*>();
-        for (const QLabel* label : labels) {
-            const int needed =
-                label->hasHeightForWidth() ? label->heightForWidth(label->width()) : label->minimumSizeHint().height();
-            QVERIFY2(label->height() >= needed, qPrintable(label->text()));
-        }
-        QVERIFY(window->rect().contains(
-            QRect(window->currentFrame()->mapTo(window.get(), QPoint()), window->currentFrame()->size())));
+        const PageFrame& frame = *window->currentFrame();
+        const auto fits = [&] {
+            return window->rect().contains(QRect(frame.mapTo(window.get(), QPoint()), frame.size()));
+        };
+        QTRY_VERIFY2(fits(), page.title);
+        QTRY_COMPARE(cutOff(frame).join(QStringLiteral(" | ")), QString());
     }
 }
 

@@ -59,6 +59,10 @@
         <source>Widget renderer</source>
         <translation>راسم عناصر الواجهة</translation>
     </message>
+    <message>
+        <source>File dialogs</source>
+        <translation>مربعات حوار الملفات</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -316,6 +320,65 @@
     </message>
 </context>
 <context>
+    <name>Gallery::FileDialogsPage</name>
+    <message>
+        <source>Each button calls the function of its name and shows what comes back: the result, string by string, and the filter that was written back. On Windows getOpen() shows the dialog of the system, which takes files and folders together.</source>
+        <translation>يستدعي كل زر الدالة التي يحمل اسمها ويعرض ما يعود منها: النتيجة سلسلةً سلسلة، والمرشّح الذي أُعيدت كتابته. على Windows تعرض getOpen() مربع حوار النظام الذي يقبل الملفات والمجلدات معًا.</translation>
+    </message>
+    <message>
+        <source>This disc is read-only: nothing can be written to it.</source>
+        <translation>هذا القرص للقراءة فقط: لا يمكن كتابة أي شيء عليه.</translation>
+    </message>
+    <message>
+        <source>&amp;Result</source>
+        <translation>ال&amp;نتيجة</translation>
+    </message>
+    <message>
+        <source>Nothing was asked yet</source>
+        <translation>لم يُطلب شيء بعد</translation>
+    </message>
+    <message>
+        <source>Choose something</source>
+        <translation>اختر شيئًا</translation>
+    </message>
+    <message>
+        <source>Images (*.jpg *.png);;Texts (*.txt *.md);;All files (*)</source>
+        <translation>صور (*.jpg *.png);;نصوص (*.txt *.md);;كل الملفات (*)</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>العنوان</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>المجلد</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>المرشّح</translation>
+    </message>
+    <message>
+        <source>getOpen(): files</source>
+        <translation>getOpen(): ملفات</translation>
+    </message>
+    <message>
+        <source>getOpen(): folders</source>
+        <translation>getOpen(): مجلدات</translation>
+    </message>
+    <message>
+        <source>getOpen(): several</source>
+        <translation>getOpen(): عدة عناصر</translation>
+    </message>
+    <message>
+        <source>An empty list</source>
+        <translation>قائمة فارغة</translation>
+    </message>
+    <message>
+        <source>Filter written back: %1</source>
+        <translation>المرشّح المُعاد: %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::FormattingPage</name>
     <message>
         <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
@@ -404,7 +467,7 @@
 <context>
     <name>Gallery::LabelsAndInputsPage</name>
     <message>
-        <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
+        <source>Drag the handle beside the column to narrow it: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
         <translation>اسحب المقبض لتضييق العمود المجاور له: تختصر التسميات وحقل الإدخال نصوصها وتذكرها كاملة في تلميحات الأدوات. يعرض حقل الإدخال النص كله أثناء تحريره.</translation>
     </message>
     <message>
@@ -822,12 +885,12 @@
         <translation>حفظ</translation>
     </message>
     <message>
-        <source>Left lamp</source>
-        <translation>المصباح الأيسر</translation>
+        <source>First lamp</source>
+        <translation>المصباح الأول</translation>
     </message>
     <message>
-        <source>Right lamp</source>
-        <translation>المصباح الأيمن</translation>
+        <source>Second lamp</source>
+        <translation>المصباح الثاني</translation>
     </message>
     <message>
         <source>Group</source>
@@ -874,12 +937,12 @@
         <translation>إظهار «حفظ»</translation>
     </message>
     <message>
-        <source>Left lamp is shown</source>
-        <translation>إظهار المصباح الأيسر</translation>
+        <source>First lamp is shown</source>
+        <translation>إظهار المصباح الأول</translation>
     </message>
     <message>
-        <source>Right lamp is shown</source>
-        <translation>إظهار المصباح الأيمن</translation>
+        <source>Second lamp is shown</source>
+        <translation>إظهار المصباح الثاني</translation>
     </message>
     <message>
         <source>Hints avoid the list of hints</source>
@@ -893,7 +956,7 @@
 <context>
     <name>Gallery::WidgetRendererPage</name>
     <message>
-        <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
+        <source>The widgets are drawn into the picture beside them, and cut out of their window. Cut out, they still answer to the mouse.</source>
         <translation>تُرسم عناصر الواجهة هنا في الصورة المجاورة لها، وتُقتطع من نافذتها. وحتى بعد اقتطاعها تظل تستجيب للفأرة.</translation>
     </message>
     <message>

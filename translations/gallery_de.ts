@@ -59,6 +59,10 @@
         <source>Widget renderer</source>
         <translation>Widget-Renderer</translation>
     </message>
+    <message>
+        <source>File dialogs</source>
+        <translation>Dateidialoge</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -316,6 +320,65 @@
     </message>
 </context>
 <context>
+    <name>Gallery::FileDialogsPage</name>
+    <message>
+        <source>Each button calls the function of its name and shows what comes back: the result, string by string, and the filter that was written back. On Windows getOpen() shows the dialog of the system, which takes files and folders together.</source>
+        <translation>Jeder Knopf ruft die Funktion seines Namens auf und zeigt, was zurückkommt: das Ergebnis, Zeichenkette für Zeichenkette, und den zurückgeschriebenen Filter. Unter Windows zeigt getOpen() den Dialog des Systems, der Dateien und Ordner zugleich nimmt.</translation>
+    </message>
+    <message>
+        <source>This disc is read-only: nothing can be written to it.</source>
+        <translation>Diese Disc ist schreibgeschützt: Auf sie kann nichts geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Result</source>
+        <translation>&amp;Ergebnis</translation>
+    </message>
+    <message>
+        <source>Nothing was asked yet</source>
+        <translation>Noch nichts gefragt</translation>
+    </message>
+    <message>
+        <source>Choose something</source>
+        <translation>Wählen Sie etwas</translation>
+    </message>
+    <message>
+        <source>Images (*.jpg *.png);;Texts (*.txt *.md);;All files (*)</source>
+        <translation>Bilder (*.jpg *.png);;Texte (*.txt *.md);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>getOpen(): files</source>
+        <translation>getOpen(): Dateien</translation>
+    </message>
+    <message>
+        <source>getOpen(): folders</source>
+        <translation>getOpen(): Ordner</translation>
+    </message>
+    <message>
+        <source>getOpen(): several</source>
+        <translation>getOpen(): mehrere</translation>
+    </message>
+    <message>
+        <source>An empty list</source>
+        <translation>Eine leere Liste</translation>
+    </message>
+    <message>
+        <source>Filter written back: %1</source>
+        <translation>Zurückgeschriebener Filter: %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::FormattingPage</name>
     <message>
         <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
@@ -404,8 +467,8 @@
 <context>
     <name>Gallery::LabelsAndInputsPage</name>
     <message>
-        <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
-        <translation>Ziehen Sie am Griff, um die Spalte links davon schmaler zu machen: Die Beschriftungen und das Eingabefeld kürzen ihre Texte und nennen sie vollständig in Tooltips. Das Eingabefeld zeigt alles, während Sie es bearbeiten.</translation>
+        <source>Drag the handle beside the column to narrow it: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
+        <translation>Ziehen Sie am Griff neben der Spalte, um sie schmaler zu machen: Die Beschriftungen und das Eingabefeld kürzen ihre Texte und nennen sie vollständig in Tooltips. Das Eingabefeld zeigt alles, während Sie es bearbeiten.</translation>
     </message>
     <message>
         <source>A file name that is much too long for a column as narrow as this one.txt</source>
@@ -822,12 +885,12 @@
         <translation>Speichern</translation>
     </message>
     <message>
-        <source>Left lamp</source>
-        <translation>Linke Lampe</translation>
+        <source>First lamp</source>
+        <translation>Erste Lampe</translation>
     </message>
     <message>
-        <source>Right lamp</source>
-        <translation>Rechte Lampe</translation>
+        <source>Second lamp</source>
+        <translation>Zweite Lampe</translation>
     </message>
     <message>
         <source>Group</source>
@@ -874,12 +937,12 @@
         <translation>Speichern ist zu sehen</translation>
     </message>
     <message>
-        <source>Left lamp is shown</source>
-        <translation>Linke Lampe ist zu sehen</translation>
+        <source>First lamp is shown</source>
+        <translation>Erste Lampe ist zu sehen</translation>
     </message>
     <message>
-        <source>Right lamp is shown</source>
-        <translation>Rechte Lampe ist zu sehen</translation>
+        <source>Second lamp is shown</source>
+        <translation>Zweite Lampe ist zu sehen</translation>
     </message>
     <message>
         <source>Hints avoid the list of hints</source>
@@ -893,8 +956,8 @@
 <context>
     <name>Gallery::WidgetRendererPage</name>
     <message>
-        <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
-        <translation>Die Widgets links werden in das Bild rechts gezeichnet und aus ihrem Fenster ausgeschnitten. Auch ausgeschnitten reagieren sie noch auf die Maus.</translation>
+        <source>The widgets are drawn into the picture beside them, and cut out of their window. Cut out, they still answer to the mouse.</source>
+        <translation>Die Widgets werden in das Bild daneben gezeichnet und aus ihrem Fenster ausgeschnitten. Auch ausgeschnitten reagieren sie noch auf die Maus.</translation>
     </message>
     <message>
         <source>Compose</source>

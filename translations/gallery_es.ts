@@ -59,6 +59,10 @@
         <source>Widget renderer</source>
         <translation>Representación de widgets</translation>
     </message>
+    <message>
+        <source>File dialogs</source>
+        <translation>Cuadros de diálogo de archivos</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -68,7 +72,7 @@
     </message>
     <message>
         <source>Buy milk, feed the cat</source>
-        <translation>Comprar leche, dar de comer al gato</translation>
+        <translation>Comprar leche, alimentar al gato</translation>
     </message>
     <message>
         <source>Paper</source>
@@ -316,6 +320,65 @@
     </message>
 </context>
 <context>
+    <name>Gallery::FileDialogsPage</name>
+    <message>
+        <source>Each button calls the function of its name and shows what comes back: the result, string by string, and the filter that was written back. On Windows getOpen() shows the dialog of the system, which takes files and folders together.</source>
+        <translation>Cada botón llama a la función de su nombre y muestra lo que devuelve: el resultado, cadena a cadena, y el filtro que se escribió de vuelta. En Windows, getOpen() muestra el cuadro de diálogo del sistema, que acepta archivos y carpetas a la vez.</translation>
+    </message>
+    <message>
+        <source>This disc is read-only: nothing can be written to it.</source>
+        <translation>Este disco es de solo lectura: no se puede escribir nada en él.</translation>
+    </message>
+    <message>
+        <source>&amp;Result</source>
+        <translation>&amp;Resultado</translation>
+    </message>
+    <message>
+        <source>Nothing was asked yet</source>
+        <translation>Aún no se ha preguntado nada</translation>
+    </message>
+    <message>
+        <source>Choose something</source>
+        <translation>Elija algo</translation>
+    </message>
+    <message>
+        <source>Images (*.jpg *.png);;Texts (*.txt *.md);;All files (*)</source>
+        <translation>Imágenes (*.jpg *.png);;Textos (*.txt *.md);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtro</translation>
+    </message>
+    <message>
+        <source>getOpen(): files</source>
+        <translation>getOpen(): archivos</translation>
+    </message>
+    <message>
+        <source>getOpen(): folders</source>
+        <translation>getOpen(): carpetas</translation>
+    </message>
+    <message>
+        <source>getOpen(): several</source>
+        <translation>getOpen(): varios</translation>
+    </message>
+    <message>
+        <source>An empty list</source>
+        <translation>Una lista vacía</translation>
+    </message>
+    <message>
+        <source>Filter written back: %1</source>
+        <translation>Filtro devuelto: %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::FormattingPage</name>
     <message>
         <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
@@ -404,8 +467,8 @@
 <context>
     <name>Gallery::LabelsAndInputsPage</name>
     <message>
-        <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
-        <translation>Arrastre el tirador para estrechar la columna de su izquierda: las etiquetas y el campo de texto abrevian su contenido y lo muestran completo en una sugerencia. El campo lo muestra completo mientras se edita.</translation>
+        <source>Drag the handle beside the column to narrow it: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
+        <translation>Arrastre el tirador junto a la columna para estrecharla: las etiquetas y el campo de texto abrevian su contenido y lo muestran completo en una sugerencia. El campo lo muestra completo mientras se edita.</translation>
     </message>
     <message>
         <source>A file name that is much too long for a column as narrow as this one.txt</source>
@@ -822,12 +885,12 @@
         <translation>Guardar</translation>
     </message>
     <message>
-        <source>Left lamp</source>
-        <translation>Lámpara izquierda</translation>
+        <source>First lamp</source>
+        <translation>Primera lámpara</translation>
     </message>
     <message>
-        <source>Right lamp</source>
-        <translation>Lámpara derecha</translation>
+        <source>Second lamp</source>
+        <translation>Segunda lámpara</translation>
     </message>
     <message>
         <source>Group</source>
@@ -874,12 +937,12 @@
         <translation>Guardar está visible</translation>
     </message>
     <message>
-        <source>Left lamp is shown</source>
-        <translation>La lámpara izquierda está visible</translation>
+        <source>First lamp is shown</source>
+        <translation>La primera lámpara está visible</translation>
     </message>
     <message>
-        <source>Right lamp is shown</source>
-        <translation>La lámpara derecha está visible</translation>
+        <source>Second lamp is shown</source>
+        <translation>La segunda lámpara está visible</translation>
     </message>
     <message>
         <source>Hints avoid the list of hints</source>
@@ -893,8 +956,8 @@
 <context>
     <name>Gallery::WidgetRendererPage</name>
     <message>
-        <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
-        <translation>Los widgets de la izquierda se dibujan en la imagen de la derecha y se recortan de su ventana. Aun recortados, siguen respondiendo al ratón.</translation>
+        <source>The widgets are drawn into the picture beside them, and cut out of their window. Cut out, they still answer to the mouse.</source>
+        <translation>Los widgets se dibujan en la imagen contigua y se recortan de su ventana. Aun recortados, siguen respondiendo al ratón.</translation>
     </message>
     <message>
         <source>Compose</source>

@@ -59,6 +59,10 @@
         <source>Widget renderer</source>
         <translation>Rendu de widgets</translation>
     </message>
+    <message>
+        <source>File dialogs</source>
+        <translation>Boîtes de dialogue de fichiers</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -316,6 +320,65 @@
     </message>
 </context>
 <context>
+    <name>Gallery::FileDialogsPage</name>
+    <message>
+        <source>Each button calls the function of its name and shows what comes back: the result, string by string, and the filter that was written back. On Windows getOpen() shows the dialog of the system, which takes files and folders together.</source>
+        <translation>Chaque bouton appelle la fonction de son nom et montre ce qui en revient : le résultat, chaîne par chaîne, et le filtre qui a été réécrit. Sous Windows, getOpen() montre la boîte de dialogue du système, qui accepte à la fois fichiers et dossiers.</translation>
+    </message>
+    <message>
+        <source>This disc is read-only: nothing can be written to it.</source>
+        <translation>Ce disque est en lecture seule : rien ne peut y être écrit.</translation>
+    </message>
+    <message>
+        <source>&amp;Result</source>
+        <translation>&amp;Résultat</translation>
+    </message>
+    <message>
+        <source>Nothing was asked yet</source>
+        <translation>Rien n&apos;a encore été demandé</translation>
+    </message>
+    <message>
+        <source>Choose something</source>
+        <translation>Choisissez quelque chose</translation>
+    </message>
+    <message>
+        <source>Images (*.jpg *.png);;Texts (*.txt *.md);;All files (*)</source>
+        <translation>Images (*.jpg *.png);;Textes (*.txt *.md);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtre</translation>
+    </message>
+    <message>
+        <source>getOpen(): files</source>
+        <translation>getOpen() : fichiers</translation>
+    </message>
+    <message>
+        <source>getOpen(): folders</source>
+        <translation>getOpen() : dossiers</translation>
+    </message>
+    <message>
+        <source>getOpen(): several</source>
+        <translation>getOpen() : plusieurs</translation>
+    </message>
+    <message>
+        <source>An empty list</source>
+        <translation>Une liste vide</translation>
+    </message>
+    <message>
+        <source>Filter written back: %1</source>
+        <translation>Filtre réécrit : %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::FormattingPage</name>
     <message>
         <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
@@ -404,8 +467,8 @@
 <context>
     <name>Gallery::LabelsAndInputsPage</name>
     <message>
-        <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
-        <translation>Faites glisser la poignée pour rétrécir la colonne à sa gauche : les libellés et le champ de saisie abrègent leurs textes et les donnent en entier dans des infobulles. Le champ les montre en entier pendant la saisie.</translation>
+        <source>Drag the handle beside the column to narrow it: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
+        <translation>Faites glisser la poignée à côté de la colonne pour la rétrécir : les libellés et le champ de saisie abrègent leurs textes et les donnent en entier dans des infobulles. Le champ les montre en entier pendant la saisie.</translation>
     </message>
     <message>
         <source>A file name that is much too long for a column as narrow as this one.txt</source>
@@ -822,12 +885,12 @@
         <translation>Enregistrer</translation>
     </message>
     <message>
-        <source>Left lamp</source>
-        <translation>Lampe gauche</translation>
+        <source>First lamp</source>
+        <translation>Première lampe</translation>
     </message>
     <message>
-        <source>Right lamp</source>
-        <translation>Lampe droite</translation>
+        <source>Second lamp</source>
+        <translation>Deuxième lampe</translation>
     </message>
     <message>
         <source>Group</source>
@@ -874,12 +937,12 @@
         <translation>Enregistrer est visible</translation>
     </message>
     <message>
-        <source>Left lamp is shown</source>
-        <translation>La lampe gauche est visible</translation>
+        <source>First lamp is shown</source>
+        <translation>La première lampe est visible</translation>
     </message>
     <message>
-        <source>Right lamp is shown</source>
-        <translation>La lampe droite est visible</translation>
+        <source>Second lamp is shown</source>
+        <translation>La deuxième lampe est visible</translation>
     </message>
     <message>
         <source>Hints avoid the list of hints</source>
@@ -893,8 +956,8 @@
 <context>
     <name>Gallery::WidgetRendererPage</name>
     <message>
-        <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
-        <translation>Les widgets de gauche sont dessinés dans l&apos;image de droite et découpés de leur fenêtre. Même découpés, ils répondent encore à la souris.</translation>
+        <source>The widgets are drawn into the picture beside them, and cut out of their window. Cut out, they still answer to the mouse.</source>
+        <translation>Les widgets sont dessinés dans l&apos;image voisine et découpés de leur fenêtre. Même découpés, ils répondent encore à la souris.</translation>
     </message>
     <message>
         <source>Compose</source>

@@ -59,6 +59,10 @@
         <source>Widget renderer</source>
         <translation>ציור רכיבים</translation>
     </message>
+    <message>
+        <source>File dialogs</source>
+        <translation>תיבות דו־שיח לקבצים</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -316,6 +320,65 @@
     </message>
 </context>
 <context>
+    <name>Gallery::FileDialogsPage</name>
+    <message>
+        <source>Each button calls the function of its name and shows what comes back: the result, string by string, and the filter that was written back. On Windows getOpen() shows the dialog of the system, which takes files and folders together.</source>
+        <translation>כל כפתור קורא לפונקציה ששמה עליו ומציג את מה שחוזר ממנה: התוצאה, מחרוזת אחר מחרוזת, והמסנן שנכתב חזרה. ב־Windows הפונקציה getOpen() מציגה את תיבת הדו־שיח של המערכת, שמקבלת קבצים ותיקיות יחד.</translation>
+    </message>
+    <message>
+        <source>This disc is read-only: nothing can be written to it.</source>
+        <translation>התקליטור הזה לקריאה בלבד: אי אפשר לכתוב עליו דבר.</translation>
+    </message>
+    <message>
+        <source>&amp;Result</source>
+        <translation>&amp;תוצאה</translation>
+    </message>
+    <message>
+        <source>Nothing was asked yet</source>
+        <translation>עדיין לא נשאל דבר</translation>
+    </message>
+    <message>
+        <source>Choose something</source>
+        <translation>בחרו משהו</translation>
+    </message>
+    <message>
+        <source>Images (*.jpg *.png);;Texts (*.txt *.md);;All files (*)</source>
+        <translation>תמונות (*.jpg *.png);;טקסטים (*.txt *.md);;כל הקבצים (*)</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>כותרת</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>תיקייה</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>מסנן</translation>
+    </message>
+    <message>
+        <source>getOpen(): files</source>
+        <translation>getOpen(): קבצים</translation>
+    </message>
+    <message>
+        <source>getOpen(): folders</source>
+        <translation>getOpen(): תיקיות</translation>
+    </message>
+    <message>
+        <source>getOpen(): several</source>
+        <translation>getOpen(): כמה יחד</translation>
+    </message>
+    <message>
+        <source>An empty list</source>
+        <translation>רשימה ריקה</translation>
+    </message>
+    <message>
+        <source>Filter written back: %1</source>
+        <translation>המסנן שנכתב חזרה: %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::FormattingPage</name>
     <message>
         <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
@@ -404,7 +467,7 @@
 <context>
     <name>Gallery::LabelsAndInputsPage</name>
     <message>
-        <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
+        <source>Drag the handle beside the column to narrow it: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
         <translation>גררו את הידית כדי להצר את העמודה שלידה: התוויות ושדה הטקסט מקצרים את הטקסטים שלהם ומציגים אותם במלואם בתיאור קופץ. השדה מציג את כולו בזמן העריכה.</translation>
     </message>
     <message>
@@ -822,12 +885,12 @@
         <translation>שמירה</translation>
     </message>
     <message>
-        <source>Left lamp</source>
-        <translation>נורה שמאלית</translation>
+        <source>First lamp</source>
+        <translation>נורה ראשונה</translation>
     </message>
     <message>
-        <source>Right lamp</source>
-        <translation>נורה ימנית</translation>
+        <source>Second lamp</source>
+        <translation>נורה שנייה</translation>
     </message>
     <message>
         <source>Group</source>
@@ -874,12 +937,12 @@
         <translation>כפתור השמירה מוצג</translation>
     </message>
     <message>
-        <source>Left lamp is shown</source>
-        <translation>הנורה השמאלית מוצגת</translation>
+        <source>First lamp is shown</source>
+        <translation>הנורה הראשונה מוצגת</translation>
     </message>
     <message>
-        <source>Right lamp is shown</source>
-        <translation>הנורה הימנית מוצגת</translation>
+        <source>Second lamp is shown</source>
+        <translation>הנורה השנייה מוצגת</translation>
     </message>
     <message>
         <source>Hints avoid the list of hints</source>
@@ -893,8 +956,8 @@
 <context>
     <name>Gallery::WidgetRendererPage</name>
     <message>
-        <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
-        <translation>הרכיבים שמשמאל מצוירים בתמונה שמימין ונגזרים מהחלון שלהם. גם גזורים הם עדיין מגיבים לעכבר.</translation>
+        <source>The widgets are drawn into the picture beside them, and cut out of their window. Cut out, they still answer to the mouse.</source>
+        <translation>הרכיבים מצוירים בתמונה שלידם ונגזרים מהחלון שלהם. גם גזורים הם עדיין מגיבים לעכבר.</translation>
     </message>
     <message>
         <source>Compose</source>

@@ -59,6 +59,10 @@
         <source>Widget renderer</source>
         <translation>Rendering dei widget</translation>
     </message>
+    <message>
+        <source>File dialogs</source>
+        <translation>Finestre di dialogo dei file</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -68,7 +72,7 @@
     </message>
     <message>
         <source>Buy milk, feed the cat</source>
-        <translation>Comprare il latte, dar da mangiare al gatto</translation>
+        <translation>Comprare il latte, nutrire il gatto</translation>
     </message>
     <message>
         <source>Paper</source>
@@ -316,6 +320,65 @@
     </message>
 </context>
 <context>
+    <name>Gallery::FileDialogsPage</name>
+    <message>
+        <source>Each button calls the function of its name and shows what comes back: the result, string by string, and the filter that was written back. On Windows getOpen() shows the dialog of the system, which takes files and folders together.</source>
+        <translation>Ogni pulsante chiama la funzione che porta il suo nome e mostra ciò che ne torna: il risultato, stringa per stringa, e il filtro riscritto. Su Windows getOpen() mostra la finestra di dialogo del sistema, che accetta insieme file e cartelle.</translation>
+    </message>
+    <message>
+        <source>This disc is read-only: nothing can be written to it.</source>
+        <translation>Questo disco è di sola lettura: non vi si può scrivere nulla.</translation>
+    </message>
+    <message>
+        <source>&amp;Result</source>
+        <translation>&amp;Risultato</translation>
+    </message>
+    <message>
+        <source>Nothing was asked yet</source>
+        <translation>Non è stato ancora chiesto nulla</translation>
+    </message>
+    <message>
+        <source>Choose something</source>
+        <translation>Scegli qualcosa</translation>
+    </message>
+    <message>
+        <source>Images (*.jpg *.png);;Texts (*.txt *.md);;All files (*)</source>
+        <translation>Immagini (*.jpg *.png);;Testi (*.txt *.md);;Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Titolo</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Cartella</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtro</translation>
+    </message>
+    <message>
+        <source>getOpen(): files</source>
+        <translation>getOpen(): file</translation>
+    </message>
+    <message>
+        <source>getOpen(): folders</source>
+        <translation>getOpen(): cartelle</translation>
+    </message>
+    <message>
+        <source>getOpen(): several</source>
+        <translation>getOpen(): più di uno</translation>
+    </message>
+    <message>
+        <source>An empty list</source>
+        <translation>Un elenco vuoto</translation>
+    </message>
+    <message>
+        <source>Filter written back: %1</source>
+        <translation>Filtro riscritto: %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::FormattingPage</name>
     <message>
         <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
@@ -404,8 +467,8 @@
 <context>
     <name>Gallery::LabelsAndInputsPage</name>
     <message>
-        <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
-        <translation>Trascina la maniglia per stringere la colonna alla sua sinistra: le etichette e il campo di testo abbreviano i loro testi e li mostrano per intero nei suggerimenti. Il campo lo mostra tutto durante la modifica.</translation>
+        <source>Drag the handle beside the column to narrow it: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
+        <translation>Trascina la maniglia accanto alla colonna per stringerla: le etichette e il campo di testo abbreviano i loro testi e li mostrano per intero nei suggerimenti. Il campo lo mostra tutto durante la modifica.</translation>
     </message>
     <message>
         <source>A file name that is much too long for a column as narrow as this one.txt</source>
@@ -822,12 +885,12 @@
         <translation>Salva</translation>
     </message>
     <message>
-        <source>Left lamp</source>
-        <translation>Lampada sinistra</translation>
+        <source>First lamp</source>
+        <translation>Prima lampada</translation>
     </message>
     <message>
-        <source>Right lamp</source>
-        <translation>Lampada destra</translation>
+        <source>Second lamp</source>
+        <translation>Seconda lampada</translation>
     </message>
     <message>
         <source>Group</source>
@@ -874,12 +937,12 @@
         <translation>Salva è visibile</translation>
     </message>
     <message>
-        <source>Left lamp is shown</source>
-        <translation>La lampada sinistra è visibile</translation>
+        <source>First lamp is shown</source>
+        <translation>La prima lampada è visibile</translation>
     </message>
     <message>
-        <source>Right lamp is shown</source>
-        <translation>La lampada destra è visibile</translation>
+        <source>Second lamp is shown</source>
+        <translation>La seconda lampada è visibile</translation>
     </message>
     <message>
         <source>Hints avoid the list of hints</source>
@@ -893,8 +956,8 @@
 <context>
     <name>Gallery::WidgetRendererPage</name>
     <message>
-        <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
-        <translation>I widget a sinistra vengono disegnati nell&apos;immagine a destra e ritagliati dalla loro finestra. Anche ritagliati, rispondono ancora al mouse.</translation>
+        <source>The widgets are drawn into the picture beside them, and cut out of their window. Cut out, they still answer to the mouse.</source>
+        <translation>I widget vengono disegnati nell&apos;immagine accanto e ritagliati dalla loro finestra. Anche ritagliati, rispondono ancora al mouse.</translation>
     </message>
     <message>
         <source>Compose</source>

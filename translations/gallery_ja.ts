@@ -59,6 +59,10 @@
         <source>Widget renderer</source>
         <translation>ウィジェットの描画</translation>
     </message>
+    <message>
+        <source>File dialogs</source>
+        <translation>ファイルダイアログ</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -316,6 +320,65 @@
     </message>
 </context>
 <context>
+    <name>Gallery::FileDialogsPage</name>
+    <message>
+        <source>Each button calls the function of its name and shows what comes back: the result, string by string, and the filter that was written back. On Windows getOpen() shows the dialog of the system, which takes files and folders together.</source>
+        <translation>各ボタンはその名前の関数を呼び出し、戻ってきたものを示します。文字列ごとの結果と、書き戻されたフィルターです。Windows では getOpen() がシステムのダイアログを表示し、ファイルとフォルダーを一緒に選べます。</translation>
+    </message>
+    <message>
+        <source>This disc is read-only: nothing can be written to it.</source>
+        <translation>このディスクは読み取り専用で、何も書き込めません。</translation>
+    </message>
+    <message>
+        <source>&amp;Result</source>
+        <translation>結果(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Nothing was asked yet</source>
+        <translation>まだ何も尋ねていません</translation>
+    </message>
+    <message>
+        <source>Choose something</source>
+        <translation>何か選んでください</translation>
+    </message>
+    <message>
+        <source>Images (*.jpg *.png);;Texts (*.txt *.md);;All files (*)</source>
+        <translation>画像 (*.jpg *.png);;テキスト (*.txt *.md);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>タイトル</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>フィルター</translation>
+    </message>
+    <message>
+        <source>getOpen(): files</source>
+        <translation>getOpen(): ファイル</translation>
+    </message>
+    <message>
+        <source>getOpen(): folders</source>
+        <translation>getOpen(): フォルダー</translation>
+    </message>
+    <message>
+        <source>getOpen(): several</source>
+        <translation>getOpen(): 複数</translation>
+    </message>
+    <message>
+        <source>An empty list</source>
+        <translation>空のリスト</translation>
+    </message>
+    <message>
+        <source>Filter written back: %1</source>
+        <translation>書き戻されたフィルター: %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::FormattingPage</name>
     <message>
         <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
@@ -404,8 +467,8 @@
 <context>
     <name>Gallery::LabelsAndInputsPage</name>
     <message>
-        <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
-        <translation>ハンドルをドラッグして左の列を狭めてください。ラベルと入力欄はテキストを省略し、全文をツールチップで示します。入力欄は編集中に全文を表示します。</translation>
+        <source>Drag the handle beside the column to narrow it: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
+        <translation>列の横にあるハンドルをドラッグして、列を狭めてください。ラベルと入力欄はテキストを省略し、全文をツールチップで示します。入力欄は編集中に全文を表示します。</translation>
     </message>
     <message>
         <source>A file name that is much too long for a column as narrow as this one.txt</source>
@@ -822,12 +885,12 @@
         <translation>保存</translation>
     </message>
     <message>
-        <source>Left lamp</source>
-        <translation>左のランプ</translation>
+        <source>First lamp</source>
+        <translation>1 つ目のランプ</translation>
     </message>
     <message>
-        <source>Right lamp</source>
-        <translation>右のランプ</translation>
+        <source>Second lamp</source>
+        <translation>2 つ目のランプ</translation>
     </message>
     <message>
         <source>Group</source>
@@ -874,12 +937,12 @@
         <translation>「保存」を表示</translation>
     </message>
     <message>
-        <source>Left lamp is shown</source>
-        <translation>左のランプを表示</translation>
+        <source>First lamp is shown</source>
+        <translation>1 つ目のランプを表示</translation>
     </message>
     <message>
-        <source>Right lamp is shown</source>
-        <translation>右のランプを表示</translation>
+        <source>Second lamp is shown</source>
+        <translation>2 つ目のランプを表示</translation>
     </message>
     <message>
         <source>Hints avoid the list of hints</source>
@@ -893,8 +956,8 @@
 <context>
     <name>Gallery::WidgetRendererPage</name>
     <message>
-        <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
-        <translation>左のウィジェットは右の画像に描画され、ウィンドウから切り抜かれます。切り抜かれても、マウスに反応します。</translation>
+        <source>The widgets are drawn into the picture beside them, and cut out of their window. Cut out, they still answer to the mouse.</source>
+        <translation>ウィジェットは隣の画像に描画され、ウィンドウから切り抜かれます。切り抜かれても、マウスに反応します。</translation>
     </message>
     <message>
         <source>Compose</source>

@@ -59,6 +59,10 @@
         <source>Widget renderer</source>
         <translation>Rysowanie widżetów</translation>
     </message>
+    <message>
+        <source>File dialogs</source>
+        <translation>Okna wyboru plików</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -316,6 +320,65 @@
     </message>
 </context>
 <context>
+    <name>Gallery::FileDialogsPage</name>
+    <message>
+        <source>Each button calls the function of its name and shows what comes back: the result, string by string, and the filter that was written back. On Windows getOpen() shows the dialog of the system, which takes files and folders together.</source>
+        <translation>Każdy przycisk wywołuje funkcję o swojej nazwie i pokazuje, co wraca: wynik, napis po napisie, oraz zwrócony filtr. W systemie Windows getOpen() pokazuje okno systemowe, które przyjmuje razem pliki i foldery.</translation>
+    </message>
+    <message>
+        <source>This disc is read-only: nothing can be written to it.</source>
+        <translation>Ta płyta jest tylko do odczytu: nie można na niej nic zapisać.</translation>
+    </message>
+    <message>
+        <source>&amp;Result</source>
+        <translation>&amp;Wynik</translation>
+    </message>
+    <message>
+        <source>Nothing was asked yet</source>
+        <translation>Jeszcze o nic nie zapytano</translation>
+    </message>
+    <message>
+        <source>Choose something</source>
+        <translation>Wybierz coś</translation>
+    </message>
+    <message>
+        <source>Images (*.jpg *.png);;Texts (*.txt *.md);;All files (*)</source>
+        <translation>Obrazy (*.jpg *.png);;Teksty (*.txt *.md);;Wszystkie pliki (*)</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Tytuł</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtr</translation>
+    </message>
+    <message>
+        <source>getOpen(): files</source>
+        <translation>getOpen(): pliki</translation>
+    </message>
+    <message>
+        <source>getOpen(): folders</source>
+        <translation>getOpen(): foldery</translation>
+    </message>
+    <message>
+        <source>getOpen(): several</source>
+        <translation>getOpen(): kilka</translation>
+    </message>
+    <message>
+        <source>An empty list</source>
+        <translation>Pusta lista</translation>
+    </message>
+    <message>
+        <source>Filter written back: %1</source>
+        <translation>Zwrócony filtr: %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::FormattingPage</name>
     <message>
         <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
@@ -404,8 +467,8 @@
 <context>
     <name>Gallery::LabelsAndInputsPage</name>
     <message>
-        <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
-        <translation>Przeciągnij uchwyt, aby zwęzić kolumnę po jego lewej stronie: etykiety i pole tekstowe skracają swoje teksty i podają je w całości w podpowiedziach. Podczas edycji pole pokazuje cały tekst.</translation>
+        <source>Drag the handle beside the column to narrow it: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
+        <translation>Przeciągnij uchwyt obok kolumny, aby ją zwęzić: etykiety i pole tekstowe skracają swoje teksty i podają je w całości w podpowiedziach. Podczas edycji pole pokazuje cały tekst.</translation>
     </message>
     <message>
         <source>A file name that is much too long for a column as narrow as this one.txt</source>
@@ -822,12 +885,12 @@
         <translation>Zapisz</translation>
     </message>
     <message>
-        <source>Left lamp</source>
-        <translation>Lewa lampka</translation>
+        <source>First lamp</source>
+        <translation>Pierwsza lampka</translation>
     </message>
     <message>
-        <source>Right lamp</source>
-        <translation>Prawa lampka</translation>
+        <source>Second lamp</source>
+        <translation>Druga lampka</translation>
     </message>
     <message>
         <source>Group</source>
@@ -874,12 +937,12 @@
         <translation>Przycisk Zapisz widoczny</translation>
     </message>
     <message>
-        <source>Left lamp is shown</source>
-        <translation>Lewa lampka widoczna</translation>
+        <source>First lamp is shown</source>
+        <translation>Pierwsza lampka widoczna</translation>
     </message>
     <message>
-        <source>Right lamp is shown</source>
-        <translation>Prawa lampka widoczna</translation>
+        <source>Second lamp is shown</source>
+        <translation>Druga lampka widoczna</translation>
     </message>
     <message>
         <source>Hints avoid the list of hints</source>
@@ -893,8 +956,8 @@
 <context>
     <name>Gallery::WidgetRendererPage</name>
     <message>
-        <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
-        <translation>Widżety po lewej są rysowane w obrazie po prawej i wycinane ze swojego okna. Wycięte nadal reagują na mysz.</translation>
+        <source>The widgets are drawn into the picture beside them, and cut out of their window. Cut out, they still answer to the mouse.</source>
+        <translation>Widżety są rysowane w obrazie obok i wycinane ze swojego okna. Wycięte nadal reagują na mysz.</translation>
     </message>
     <message>
         <source>Compose</source>

@@ -59,6 +59,10 @@
         <source>Widget renderer</source>
         <translation>Renderização de widgets</translation>
     </message>
+    <message>
+        <source>File dialogs</source>
+        <translation>Caixas de diálogo de arquivos</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -316,6 +320,65 @@
     </message>
 </context>
 <context>
+    <name>Gallery::FileDialogsPage</name>
+    <message>
+        <source>Each button calls the function of its name and shows what comes back: the result, string by string, and the filter that was written back. On Windows getOpen() shows the dialog of the system, which takes files and folders together.</source>
+        <translation>Cada botão chama a função do seu nome e mostra o que ela devolve: o resultado, texto a texto, e o filtro escrito de volta. No Windows, getOpen() mostra a caixa de diálogo do sistema, que aceita arquivos e pastas ao mesmo tempo.</translation>
+    </message>
+    <message>
+        <source>This disc is read-only: nothing can be written to it.</source>
+        <translation>Este disco é somente leitura: nada pode ser gravado nele.</translation>
+    </message>
+    <message>
+        <source>&amp;Result</source>
+        <translation>&amp;Resultado</translation>
+    </message>
+    <message>
+        <source>Nothing was asked yet</source>
+        <translation>Nada foi perguntado ainda</translation>
+    </message>
+    <message>
+        <source>Choose something</source>
+        <translation>Escolha algo</translation>
+    </message>
+    <message>
+        <source>Images (*.jpg *.png);;Texts (*.txt *.md);;All files (*)</source>
+        <translation>Imagens (*.jpg *.png);;Textos (*.txt *.md);;Todos os arquivos (*)</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Pasta</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtro</translation>
+    </message>
+    <message>
+        <source>getOpen(): files</source>
+        <translation>getOpen(): arquivos</translation>
+    </message>
+    <message>
+        <source>getOpen(): folders</source>
+        <translation>getOpen(): pastas</translation>
+    </message>
+    <message>
+        <source>getOpen(): several</source>
+        <translation>getOpen(): vários</translation>
+    </message>
+    <message>
+        <source>An empty list</source>
+        <translation>Uma lista vazia</translation>
+    </message>
+    <message>
+        <source>Filter written back: %1</source>
+        <translation>Filtro escrito de volta: %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::FormattingPage</name>
     <message>
         <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
@@ -404,8 +467,8 @@
 <context>
     <name>Gallery::LabelsAndInputsPage</name>
     <message>
-        <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
-        <translation>Arraste a alça para estreitar a coluna à esquerda dela: os rótulos e o campo de texto abreviam seus textos e os mostram por inteiro em dicas. O campo mostra tudo durante a edição.</translation>
+        <source>Drag the handle beside the column to narrow it: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
+        <translation>Arraste a alça ao lado da coluna para estreitá-la: os rótulos e o campo de texto abreviam seus textos e os mostram por inteiro em dicas. O campo mostra tudo durante a edição.</translation>
     </message>
     <message>
         <source>A file name that is much too long for a column as narrow as this one.txt</source>
@@ -822,12 +885,12 @@
         <translation>Salvar</translation>
     </message>
     <message>
-        <source>Left lamp</source>
-        <translation>Lâmpada esquerda</translation>
+        <source>First lamp</source>
+        <translation>Primeira lâmpada</translation>
     </message>
     <message>
-        <source>Right lamp</source>
-        <translation>Lâmpada direita</translation>
+        <source>Second lamp</source>
+        <translation>Segunda lâmpada</translation>
     </message>
     <message>
         <source>Group</source>
@@ -874,12 +937,12 @@
         <translation>Salvar está visível</translation>
     </message>
     <message>
-        <source>Left lamp is shown</source>
-        <translation>A lâmpada esquerda está visível</translation>
+        <source>First lamp is shown</source>
+        <translation>A primeira lâmpada está visível</translation>
     </message>
     <message>
-        <source>Right lamp is shown</source>
-        <translation>A lâmpada direita está visível</translation>
+        <source>Second lamp is shown</source>
+        <translation>A segunda lâmpada está visível</translation>
     </message>
     <message>
         <source>Hints avoid the list of hints</source>
@@ -893,8 +956,8 @@
 <context>
     <name>Gallery::WidgetRendererPage</name>
     <message>
-        <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
-        <translation>Os widgets à esquerda são desenhados na imagem à direita e recortados de sua janela. Mesmo recortados, ainda respondem ao mouse.</translation>
+        <source>The widgets are drawn into the picture beside them, and cut out of their window. Cut out, they still answer to the mouse.</source>
+        <translation>Os widgets são desenhados na imagem ao lado e recortados de sua janela. Mesmo recortados, ainda respondem ao mouse.</translation>
     </message>
     <message>
         <source>Compose</source>

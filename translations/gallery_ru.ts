@@ -59,6 +59,10 @@
         <source>Widget renderer</source>
         <translation>Отрисовка виджетов</translation>
     </message>
+    <message>
+        <source>File dialogs</source>
+        <translation>Диалоги файлов</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -316,6 +320,65 @@
     </message>
 </context>
 <context>
+    <name>Gallery::FileDialogsPage</name>
+    <message>
+        <source>Each button calls the function of its name and shows what comes back: the result, string by string, and the filter that was written back. On Windows getOpen() shows the dialog of the system, which takes files and folders together.</source>
+        <translation>Каждая кнопка вызывает функцию со своим именем и показывает, что вернулось: результат строка за строкой и записанный обратно фильтр. В Windows getOpen() показывает системный диалог, который принимает вместе и файлы, и папки.</translation>
+    </message>
+    <message>
+        <source>This disc is read-only: nothing can be written to it.</source>
+        <translation>Этот диск только для чтения: на него нельзя ничего записать.</translation>
+    </message>
+    <message>
+        <source>&amp;Result</source>
+        <translation>&amp;Результат</translation>
+    </message>
+    <message>
+        <source>Nothing was asked yet</source>
+        <translation>Пока ничего не спрашивали</translation>
+    </message>
+    <message>
+        <source>Choose something</source>
+        <translation>Выберите что-нибудь</translation>
+    </message>
+    <message>
+        <source>Images (*.jpg *.png);;Texts (*.txt *.md);;All files (*)</source>
+        <translation>Изображения (*.jpg *.png);;Тексты (*.txt *.md);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Заголовок</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Папка</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Фильтр</translation>
+    </message>
+    <message>
+        <source>getOpen(): files</source>
+        <translation>getOpen(): файлы</translation>
+    </message>
+    <message>
+        <source>getOpen(): folders</source>
+        <translation>getOpen(): папки</translation>
+    </message>
+    <message>
+        <source>getOpen(): several</source>
+        <translation>getOpen(): несколько</translation>
+    </message>
+    <message>
+        <source>An empty list</source>
+        <translation>Пустой список</translation>
+    </message>
+    <message>
+        <source>Filter written back: %1</source>
+        <translation>Записанный обратно фильтр: %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::FormattingPage</name>
     <message>
         <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
@@ -404,8 +467,8 @@
 <context>
     <name>Gallery::LabelsAndInputsPage</name>
     <message>
-        <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
-        <translation>Потяните за ручку, чтобы сузить столбец слева от неё: надписи и поле ввода сокращают свои тексты и показывают их целиком в подсказках. Во время правки поле показывает весь текст.</translation>
+        <source>Drag the handle beside the column to narrow it: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
+        <translation>Потяните за ручку рядом со столбцом, чтобы сузить его: надписи и поле ввода сокращают свои тексты и показывают их целиком в подсказках. Во время правки поле показывает весь текст.</translation>
     </message>
     <message>
         <source>A file name that is much too long for a column as narrow as this one.txt</source>
@@ -822,12 +885,12 @@
         <translation>Сохранить</translation>
     </message>
     <message>
-        <source>Left lamp</source>
-        <translation>Левая лампочка</translation>
+        <source>First lamp</source>
+        <translation>Первая лампочка</translation>
     </message>
     <message>
-        <source>Right lamp</source>
-        <translation>Правая лампочка</translation>
+        <source>Second lamp</source>
+        <translation>Вторая лампочка</translation>
     </message>
     <message>
         <source>Group</source>
@@ -874,12 +937,12 @@
         <translation>Кнопка «Сохранить» видна</translation>
     </message>
     <message>
-        <source>Left lamp is shown</source>
-        <translation>Левая лампочка видна</translation>
+        <source>First lamp is shown</source>
+        <translation>Первая лампочка видна</translation>
     </message>
     <message>
-        <source>Right lamp is shown</source>
-        <translation>Правая лампочка видна</translation>
+        <source>Second lamp is shown</source>
+        <translation>Вторая лампочка видна</translation>
     </message>
     <message>
         <source>Hints avoid the list of hints</source>
@@ -893,8 +956,8 @@
 <context>
     <name>Gallery::WidgetRendererPage</name>
     <message>
-        <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
-        <translation>Виджеты слева рисуются в изображение справа и вырезаются из своего окна. И вырезанные, они отвечают мыши.</translation>
+        <source>The widgets are drawn into the picture beside them, and cut out of their window. Cut out, they still answer to the mouse.</source>
+        <translation>Виджеты рисуются в изображение рядом с ними и вырезаются из своего окна. И вырезанные, они отвечают мыши.</translation>
     </message>
     <message>
         <source>Compose</source>

@@ -59,6 +59,10 @@
         <source>Widget renderer</source>
         <translation>Малювання віджетів</translation>
     </message>
+    <message>
+        <source>File dialogs</source>
+        <translation>Діалоги файлів</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -316,6 +320,65 @@
     </message>
 </context>
 <context>
+    <name>Gallery::FileDialogsPage</name>
+    <message>
+        <source>Each button calls the function of its name and shows what comes back: the result, string by string, and the filter that was written back. On Windows getOpen() shows the dialog of the system, which takes files and folders together.</source>
+        <translation>Кожна кнопка викликає функцію зі своєю назвою і показує, що повернулося: результат рядок за рядком і записаний назад фільтр. У Windows getOpen() показує системний діалог, який приймає разом і файли, і теки.</translation>
+    </message>
+    <message>
+        <source>This disc is read-only: nothing can be written to it.</source>
+        <translation>Цей диск лише для читання: на нього не можна нічого записати.</translation>
+    </message>
+    <message>
+        <source>&amp;Result</source>
+        <translation>&amp;Результат</translation>
+    </message>
+    <message>
+        <source>Nothing was asked yet</source>
+        <translation>Поки нічого не питали</translation>
+    </message>
+    <message>
+        <source>Choose something</source>
+        <translation>Виберіть щось</translation>
+    </message>
+    <message>
+        <source>Images (*.jpg *.png);;Texts (*.txt *.md);;All files (*)</source>
+        <translation>Зображення (*.jpg *.png);;Тексти (*.txt *.md);;Усі файли (*)</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>Заголовок</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Тека</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Фільтр</translation>
+    </message>
+    <message>
+        <source>getOpen(): files</source>
+        <translation>getOpen(): файли</translation>
+    </message>
+    <message>
+        <source>getOpen(): folders</source>
+        <translation>getOpen(): теки</translation>
+    </message>
+    <message>
+        <source>getOpen(): several</source>
+        <translation>getOpen(): декілька</translation>
+    </message>
+    <message>
+        <source>An empty list</source>
+        <translation>Порожній список</translation>
+    </message>
+    <message>
+        <source>Filter written back: %1</source>
+        <translation>Записаний назад фільтр: %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::FormattingPage</name>
     <message>
         <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
@@ -404,8 +467,8 @@
 <context>
     <name>Gallery::LabelsAndInputsPage</name>
     <message>
-        <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
-        <translation>Потягніть за ручку, щоб звузити стовпчик ліворуч від неї: написи та поле введення скорочують свої тексти й показують їх повністю в підказках. Під час редагування поле показує весь текст.</translation>
+        <source>Drag the handle beside the column to narrow it: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
+        <translation>Потягніть за ручку поруч зі стовпчиком, щоб звузити його: написи та поле введення скорочують свої тексти й показують їх повністю в підказках. Під час редагування поле показує весь текст.</translation>
     </message>
     <message>
         <source>A file name that is much too long for a column as narrow as this one.txt</source>
@@ -822,12 +885,12 @@
         <translation>Зберегти</translation>
     </message>
     <message>
-        <source>Left lamp</source>
-        <translation>Ліва лампочка</translation>
+        <source>First lamp</source>
+        <translation>Перша лампочка</translation>
     </message>
     <message>
-        <source>Right lamp</source>
-        <translation>Права лампочка</translation>
+        <source>Second lamp</source>
+        <translation>Друга лампочка</translation>
     </message>
     <message>
         <source>Group</source>
@@ -874,12 +937,12 @@
         <translation>Кнопку «Зберегти» видно</translation>
     </message>
     <message>
-        <source>Left lamp is shown</source>
-        <translation>Ліву лампочку видно</translation>
+        <source>First lamp is shown</source>
+        <translation>Першу лампочку видно</translation>
     </message>
     <message>
-        <source>Right lamp is shown</source>
-        <translation>Праву лампочку видно</translation>
+        <source>Second lamp is shown</source>
+        <translation>Другу лампочку видно</translation>
     </message>
     <message>
         <source>Hints avoid the list of hints</source>
@@ -893,8 +956,8 @@
 <context>
     <name>Gallery::WidgetRendererPage</name>
     <message>
-        <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
-        <translation>Віджети ліворуч малюються в зображення праворуч і вирізаються зі свого вікна. Навіть вирізані, вони відповідають миші.</translation>
+        <source>The widgets are drawn into the picture beside them, and cut out of their window. Cut out, they still answer to the mouse.</source>
+        <translation>Віджети малюються в зображення поруч із ними і вирізаються зі свого вікна. Навіть вирізані, вони відповідають миші.</translation>
     </message>
     <message>
         <source>Compose</source>

@@ -59,6 +59,10 @@
         <source>Widget renderer</source>
         <translation>控件渲染</translation>
     </message>
+    <message>
+        <source>File dialogs</source>
+        <translation>文件对话框</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -316,6 +320,65 @@
     </message>
 </context>
 <context>
+    <name>Gallery::FileDialogsPage</name>
+    <message>
+        <source>Each button calls the function of its name and shows what comes back: the result, string by string, and the filter that was written back. On Windows getOpen() shows the dialog of the system, which takes files and folders together.</source>
+        <translation>每个按钮调用其同名函数并显示返回的内容：逐个字符串的结果，以及写回的筛选器。在 Windows 上，getOpen() 显示系统对话框，可同时选择文件和文件夹。</translation>
+    </message>
+    <message>
+        <source>This disc is read-only: nothing can be written to it.</source>
+        <translation>此光盘为只读：无法向其中写入任何内容。</translation>
+    </message>
+    <message>
+        <source>&amp;Result</source>
+        <translation>结果(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Nothing was asked yet</source>
+        <translation>尚未询问任何内容</translation>
+    </message>
+    <message>
+        <source>Choose something</source>
+        <translation>请选择</translation>
+    </message>
+    <message>
+        <source>Images (*.jpg *.png);;Texts (*.txt *.md);;All files (*)</source>
+        <translation>图片 (*.jpg *.png);;文本 (*.txt *.md);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Caption</source>
+        <translation>标题</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选器</translation>
+    </message>
+    <message>
+        <source>getOpen(): files</source>
+        <translation>getOpen(): 文件</translation>
+    </message>
+    <message>
+        <source>getOpen(): folders</source>
+        <translation>getOpen(): 文件夹</translation>
+    </message>
+    <message>
+        <source>getOpen(): several</source>
+        <translation>getOpen(): 多个</translation>
+    </message>
+    <message>
+        <source>An empty list</source>
+        <translation>空列表</translation>
+    </message>
+    <message>
+        <source>Filter written back: %1</source>
+        <translation>写回的筛选器: %1</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::FormattingPage</name>
     <message>
         <source>Format the sample with the two strips. Their icons come from the page&apos;s style sheet, which selects the buttons by their property &quot;styleTag&quot;.</source>
@@ -404,8 +467,8 @@
 <context>
     <name>Gallery::LabelsAndInputsPage</name>
     <message>
-        <source>Drag the handle to narrow the column at its left: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
-        <translation>拖动手柄以收窄其左侧的列：标签和输入框会省略文本，并在工具提示中显示全文。编辑时输入框显示全文。</translation>
+        <source>Drag the handle beside the column to narrow it: labels and the line edit elide their texts and tell the whole of them in tool tips. The line edit shows all of it while you edit.</source>
+        <translation>拖动列旁边的手柄以收窄该列：标签和输入框会省略文本，并在工具提示中显示全文。编辑时输入框显示全文。</translation>
     </message>
     <message>
         <source>A file name that is much too long for a column as narrow as this one.txt</source>
@@ -822,12 +885,12 @@
         <translation>保存</translation>
     </message>
     <message>
-        <source>Left lamp</source>
-        <translation>左灯</translation>
+        <source>First lamp</source>
+        <translation>第一盏灯</translation>
     </message>
     <message>
-        <source>Right lamp</source>
-        <translation>右灯</translation>
+        <source>Second lamp</source>
+        <translation>第二盏灯</translation>
     </message>
     <message>
         <source>Group</source>
@@ -874,12 +937,12 @@
         <translation>显示“保存”</translation>
     </message>
     <message>
-        <source>Left lamp is shown</source>
-        <translation>显示左灯</translation>
+        <source>First lamp is shown</source>
+        <translation>显示第一盏灯</translation>
     </message>
     <message>
-        <source>Right lamp is shown</source>
-        <translation>显示右灯</translation>
+        <source>Second lamp is shown</source>
+        <translation>显示第二盏灯</translation>
     </message>
     <message>
         <source>Hints avoid the list of hints</source>
@@ -893,8 +956,8 @@
 <context>
     <name>Gallery::WidgetRendererPage</name>
     <message>
-        <source>The widgets on the left are drawn into the picture on the right, and cut out of their window. Cut out, they still answer to the mouse.</source>
-        <translation>左侧的控件被绘制到右侧的图片中，并从其窗口中挖去。挖去之后，它们仍响应鼠标。</translation>
+        <source>The widgets are drawn into the picture beside them, and cut out of their window. Cut out, they still answer to the mouse.</source>
+        <translation>控件被绘制到旁边的图片中，并从其窗口中挖去。挖去之后，它们仍响应鼠标。</translation>
     </message>
     <message>
         <source>Compose</source>

@@ -36,7 +36,7 @@ class LabelsAndInputsPage : public Page
 
 public:
     explicit LabelsAndInputsPage(QWidget* parent)
-        : Page(tr("Drag the handle to narrow the column at its left: labels and the line edit elide their texts and "
+        : Page(tr("Drag the handle beside the column to narrow it: labels and the line edit elide their texts and "
                   "tell the whole of them in tool tips. The line edit shows all of it while you edit."),
                parent)
     {
@@ -50,7 +50,8 @@ private:
     {
         auto* column = new QWidget;
         auto* rows = new QVBoxLayout(column);
-        rows->setContentsMargins({});
+        // From right to left a splitter puts its parts a pixel too far to the right.
+        rows->setContentsMargins(0, 0, 1, 0);
         rows->addWidget(createPressLabel());
         for (const QString& text : {tr("A file name that is much too long for a column as narrow as this one.txt"),
                                     tr("Mixed directions: %1, elided in order")

@@ -97,8 +97,8 @@ private:
     void addTargets()
     {
         m_save = addTarget(tr("Save"), QStringLiteral("demo-save"));
-        m_left = addTarget(tr("Left lamp"), QStringLiteral("demo-lamps"));
-        m_right = addTarget(tr("Right lamp"), QStringLiteral("demo-lamps"));
+        m_left = addTarget(tr("First lamp"), QStringLiteral("demo-lamps"));
+        m_right = addTarget(tr("Second lamp"), QStringLiteral("demo-lamps"));
         m_targets->addStretch();
         stage()->addLayout(m_targets);
     }
@@ -148,8 +148,8 @@ private:
         connect(m_enabled, &QCheckBox::toggled, this, [this](bool on) { m_controller.setEnabled(on); });
         controls()->addRow(m_enabled);
         addSwitch(tr("Save is shown"), true, [this](bool on) { m_save->setVisible(on); });
-        addSwitch(tr("Left lamp is shown"), true, [this](bool on) { m_left->setVisible(on); });
-        addSwitch(tr("Right lamp is shown"), true, [this](bool on) { m_right->setVisible(on); });
+        addSwitch(tr("First lamp is shown"), true, [this](bool on) { m_left->setVisible(on); });
+        addSwitch(tr("Second lamp is shown"), true, [this](bool on) { m_right->setVisible(on); });
         addSwitch(tr("Hints avoid the list of hints"), false,
                   //! [code]
                   [this](bool on) { m_controller.setAvoidWidget(on ? m_hints : nullptr); });

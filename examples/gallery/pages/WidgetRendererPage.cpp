@@ -31,7 +31,7 @@ class WidgetRendererPage : public Page
 
 public:
     explicit WidgetRendererPage(QWidget* parent)
-        : Page(tr("The widgets on the left are drawn into the picture on the right, and cut out of their window. "
+        : Page(tr("The widgets are drawn into the picture beside them, and cut out of their window. "
                   "Cut out, they still answer to the mouse."),
                parent)
     {
