@@ -63,6 +63,10 @@
         <source>File dialogs</source>
         <translation>مربعات حوار الملفات</translation>
     </message>
+    <message>
+        <source>Taskbar</source>
+        <translation>شريط المهام</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -754,6 +758,73 @@
     <message>
         <source>Signals appear here.</source>
         <translation>تظهر الإشارات هنا.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::TaskbarPage</name>
+    <message>
+        <source>Move the slider or press a button, and look at the taskbar or dock of your desktop: that begins an operation. Below stands what was asked for, and what is seen of it where.</source>
+        <translation>حرّك المنزلق أو اضغط زرًّا وانظر إلى شريط المهام أو الرصيف في سطح مكتبك: بذلك تبدأ عملية. وفي الأسفل ما طُلب، وما يُرى منه وأين.</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>نظام Windows</translation>
+    </message>
+    <message>
+        <source>The button of this window in the taskbar fills: green while the operation runs, yellow when it is paused, red when it was stopped. A busy one has a light that runs through it.</source>
+        <translation>يمتلئ زر هذه النافذة في شريط المهام: بالأخضر ما دامت العملية جارية، وبالأصفر عند إيقافها مؤقتًا، وبالأحمر إذا أُوقفت. وفي حالة الانشغال يجري فيه ضوء.</translation>
+    </message>
+    <message>
+        <source>Linux</source>
+        <translation>نظام Linux</translation>
+    </message>
+    <message>
+        <source>The entry of this application has a bar, in docks that know its desktop file and show progress: those of KDE Plasma and Ubuntu, Dash to Dock, Plank and others. Busy is an empty bar, paused looks like running, and what was stopped asks for attention.</source>
+        <translation>يظهر شريط على مدخل هذا التطبيق في الأرصفة التي تعرف ملف سطح المكتب الخاص به وتعرض التقدم: أرصفة KDE Plasma وUbuntu وDash to Dock وPlank وغيرها. الانشغال شريط فارغ، والمتوقف مؤقتًا يبدو كالجاري، وما أُوقف يطلب الانتباه.</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>في غيرهما</translation>
+    </message>
+    <message>
+        <source>Nothing is seen.</source>
+        <translation>لا يُرى شيء.</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>التقدم</translation>
+    </message>
+    <message>
+        <source>End the operation</source>
+        <translation>إنهاء العملية</translation>
+    </message>
+    <message>
+        <source>Desktop file</source>
+        <translation>ملف سطح المكتب</translation>
+    </message>
+    <message>
+        <source>There is no operation.</source>
+        <translation>لا توجد عملية.</translation>
+    </message>
+    <message>
+        <source>The indicator is hidden.</source>
+        <translation>المؤشر مخفي.</translation>
+    </message>
+    <message>
+        <source>The operation was stopped.</source>
+        <translation>أُوقفت العملية.</translation>
+    </message>
+    <message>
+        <source>The operation is paused.</source>
+        <translation>العملية متوقفة مؤقتًا.</translation>
+    </message>
+    <message>
+        <source>The operation runs; how far it is nobody knows.</source>
+        <translation>العملية جارية؛ ولا أحد يعلم إلى أين وصلت.</translation>
+    </message>
+    <message>
+        <source>The operation runs.</source>
+        <translation>العملية جارية.</translation>
     </message>
 </context>
 <context>

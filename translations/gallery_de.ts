@@ -63,6 +63,10 @@
         <source>File dialogs</source>
         <translation>Dateidialoge</translation>
     </message>
+    <message>
+        <source>Taskbar</source>
+        <translation>Taskleiste</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -754,6 +758,73 @@
     <message>
         <source>Signals appear here.</source>
         <translation>Hier erscheinen Signale.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::TaskbarPage</name>
+    <message>
+        <source>Move the slider or press a button, and look at the taskbar or dock of your desktop: that begins an operation. Below stands what was asked for, and what is seen of it where.</source>
+        <translation>Bewegen Sie den Schieber oder drücken Sie einen Knopf und sehen Sie auf die Taskleiste oder das Dock Ihres Desktops: Damit beginnt ein Vorgang. Darunter steht, was verlangt wurde und was davon wo zu sehen ist.</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Windows</translation>
+    </message>
+    <message>
+        <source>The button of this window in the taskbar fills: green while the operation runs, yellow when it is paused, red when it was stopped. A busy one has a light that runs through it.</source>
+        <translation>Der Knopf dieses Fensters in der Taskleiste füllt sich: grün, während der Vorgang läuft, gelb, wenn er pausiert, rot, wenn er abgebrochen wurde. Ist er von unbestimmter Dauer, läuft ein Licht hindurch.</translation>
+    </message>
+    <message>
+        <source>Linux</source>
+        <translation>Linux</translation>
+    </message>
+    <message>
+        <source>The entry of this application has a bar, in docks that know its desktop file and show progress: those of KDE Plasma and Ubuntu, Dash to Dock, Plank and others. Busy is an empty bar, paused looks like running, and what was stopped asks for attention.</source>
+        <translation>Der Eintrag dieser Anwendung bekommt einen Balken, in Docks, die ihre Desktop-Datei kennen und Fortschritt zeigen: denen von KDE Plasma und Ubuntu, Dash to Dock, Plank und anderen. Unbestimmte Dauer ist ein leerer Balken, eine Pause sieht aus wie Laufen, und ein Abbruch bittet um Aufmerksamkeit.</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>Anderswo</translation>
+    </message>
+    <message>
+        <source>Nothing is seen.</source>
+        <translation>Nichts ist zu sehen.</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>End the operation</source>
+        <translation>Vorgang beenden</translation>
+    </message>
+    <message>
+        <source>Desktop file</source>
+        <translation>Desktop-Datei</translation>
+    </message>
+    <message>
+        <source>There is no operation.</source>
+        <translation>Es gibt keinen Vorgang.</translation>
+    </message>
+    <message>
+        <source>The indicator is hidden.</source>
+        <translation>Die Anzeige ist verborgen.</translation>
+    </message>
+    <message>
+        <source>The operation was stopped.</source>
+        <translation>Der Vorgang wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The operation is paused.</source>
+        <translation>Der Vorgang pausiert.</translation>
+    </message>
+    <message>
+        <source>The operation runs; how far it is nobody knows.</source>
+        <translation>Der Vorgang läuft; wie weit er ist, weiß niemand.</translation>
+    </message>
+    <message>
+        <source>The operation runs.</source>
+        <translation>Der Vorgang läuft.</translation>
     </message>
 </context>
 <context>

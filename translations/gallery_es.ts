@@ -63,6 +63,10 @@
         <source>File dialogs</source>
         <translation>Cuadros de diálogo de archivos</translation>
     </message>
+    <message>
+        <source>Taskbar</source>
+        <translation>Barra de tareas</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -754,6 +758,73 @@
     <message>
         <source>Signals appear here.</source>
         <translation>Las señales aparecen aquí.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::TaskbarPage</name>
+    <message>
+        <source>Move the slider or press a button, and look at the taskbar or dock of your desktop: that begins an operation. Below stands what was asked for, and what is seen of it where.</source>
+        <translation>Mueva el control deslizante o pulse un botón y mire la barra de tareas o el dock de su escritorio: así empieza una operación. Debajo figura lo que se ha pedido y qué se ve de ello y dónde.</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Windows</translation>
+    </message>
+    <message>
+        <source>The button of this window in the taskbar fills: green while the operation runs, yellow when it is paused, red when it was stopped. A busy one has a light that runs through it.</source>
+        <translation>El botón de esta ventana en la barra de tareas se llena: verde mientras la operación avanza, amarillo si está en pausa, rojo si se ha detenido. Si está ocupada, lo recorre una luz.</translation>
+    </message>
+    <message>
+        <source>Linux</source>
+        <translation>Linux</translation>
+    </message>
+    <message>
+        <source>The entry of this application has a bar, in docks that know its desktop file and show progress: those of KDE Plasma and Ubuntu, Dash to Dock, Plank and others. Busy is an empty bar, paused looks like running, and what was stopped asks for attention.</source>
+        <translation>La entrada de esta aplicación muestra una barra en los docks que conocen su archivo de escritorio y muestran el progreso: los de KDE Plasma y Ubuntu, Dash to Dock, Plank y otros. Ocupada es una barra vacía, en pausa parece en marcha, y lo detenido pide atención.</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>En otros sistemas</translation>
+    </message>
+    <message>
+        <source>Nothing is seen.</source>
+        <translation>No se ve nada.</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>End the operation</source>
+        <translation>Terminar la operación</translation>
+    </message>
+    <message>
+        <source>Desktop file</source>
+        <translation>Archivo de escritorio</translation>
+    </message>
+    <message>
+        <source>There is no operation.</source>
+        <translation>No hay ninguna operación.</translation>
+    </message>
+    <message>
+        <source>The indicator is hidden.</source>
+        <translation>El indicador está oculto.</translation>
+    </message>
+    <message>
+        <source>The operation was stopped.</source>
+        <translation>La operación se ha detenido.</translation>
+    </message>
+    <message>
+        <source>The operation is paused.</source>
+        <translation>La operación está en pausa.</translation>
+    </message>
+    <message>
+        <source>The operation runs; how far it is nobody knows.</source>
+        <translation>La operación está en marcha; nadie sabe por dónde va.</translation>
+    </message>
+    <message>
+        <source>The operation runs.</source>
+        <translation>La operación está en marcha.</translation>
     </message>
 </context>
 <context>

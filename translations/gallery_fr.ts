@@ -63,6 +63,10 @@
         <source>File dialogs</source>
         <translation>Boîtes de dialogue de fichiers</translation>
     </message>
+    <message>
+        <source>Taskbar</source>
+        <translation>Barre des tâches</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -754,6 +758,73 @@
     <message>
         <source>Signals appear here.</source>
         <translation>Les signaux apparaissent ici.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::TaskbarPage</name>
+    <message>
+        <source>Move the slider or press a button, and look at the taskbar or dock of your desktop: that begins an operation. Below stands what was asked for, and what is seen of it where.</source>
+        <translation>Déplacez le curseur ou appuyez sur un bouton, et regardez la barre des tâches ou le dock de votre bureau : une opération commence. Au-dessous figure ce qui a été demandé, et ce qu&apos;on en voit et où.</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Windows</translation>
+    </message>
+    <message>
+        <source>The button of this window in the taskbar fills: green while the operation runs, yellow when it is paused, red when it was stopped. A busy one has a light that runs through it.</source>
+        <translation>Le bouton de cette fenêtre dans la barre des tâches se remplit : en vert pendant l&apos;opération, en jaune si elle est en pause, en rouge si elle a été arrêtée. Si sa durée est inconnue, une lumière le parcourt.</translation>
+    </message>
+    <message>
+        <source>Linux</source>
+        <translation>Linux</translation>
+    </message>
+    <message>
+        <source>The entry of this application has a bar, in docks that know its desktop file and show progress: those of KDE Plasma and Ubuntu, Dash to Dock, Plank and others. Busy is an empty bar, paused looks like running, and what was stopped asks for attention.</source>
+        <translation>L&apos;entrée de cette application porte une barre, dans les docks qui connaissent son fichier de bureau et montrent la progression : ceux de KDE Plasma et d&apos;Ubuntu, Dash to Dock, Plank et d&apos;autres. Une durée inconnue donne une barre vide, une pause ressemble à la marche, et ce qui a été arrêté réclame l&apos;attention.</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>Ailleurs</translation>
+    </message>
+    <message>
+        <source>Nothing is seen.</source>
+        <translation>On ne voit rien.</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>End the operation</source>
+        <translation>Terminer l&apos;opération</translation>
+    </message>
+    <message>
+        <source>Desktop file</source>
+        <translation>Fichier de bureau</translation>
+    </message>
+    <message>
+        <source>There is no operation.</source>
+        <translation>Il n&apos;y a aucune opération.</translation>
+    </message>
+    <message>
+        <source>The indicator is hidden.</source>
+        <translation>L&apos;indicateur est masqué.</translation>
+    </message>
+    <message>
+        <source>The operation was stopped.</source>
+        <translation>L&apos;opération a été arrêtée.</translation>
+    </message>
+    <message>
+        <source>The operation is paused.</source>
+        <translation>L&apos;opération est en pause.</translation>
+    </message>
+    <message>
+        <source>The operation runs; how far it is nobody knows.</source>
+        <translation>L&apos;opération est en cours ; personne ne sait où elle en est.</translation>
+    </message>
+    <message>
+        <source>The operation runs.</source>
+        <translation>L&apos;opération est en cours.</translation>
     </message>
 </context>
 <context>

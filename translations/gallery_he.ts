@@ -63,6 +63,10 @@
         <source>File dialogs</source>
         <translation>תיבות דו־שיח לקבצים</translation>
     </message>
+    <message>
+        <source>Taskbar</source>
+        <translation>שורת המשימות</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -754,6 +758,73 @@
     <message>
         <source>Signals appear here.</source>
         <translation>כאן יופיעו אותות.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::TaskbarPage</name>
+    <message>
+        <source>Move the slider or press a button, and look at the taskbar or dock of your desktop: that begins an operation. Below stands what was asked for, and what is seen of it where.</source>
+        <translation>הזיזו את המחוון או לחצו על כפתור, והביטו בשורת המשימות או במעגן של שולחן העבודה: כך מתחילה פעולה. למטה כתוב מה התבקש, ומה רואים ממנו והיכן.</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>מערכת Windows</translation>
+    </message>
+    <message>
+        <source>The button of this window in the taskbar fills: green while the operation runs, yellow when it is paused, red when it was stopped. A busy one has a light that runs through it.</source>
+        <translation>הכפתור של החלון הזה בשורת המשימות מתמלא: ירוק בזמן שהפעולה רצה, צהוב כשהיא מושהית, אדום אם נעצרה. בפעולה שמשכה אינו ידוע רץ בו אור.</translation>
+    </message>
+    <message>
+        <source>Linux</source>
+        <translation>מערכת Linux</translation>
+    </message>
+    <message>
+        <source>The entry of this application has a bar, in docks that know its desktop file and show progress: those of KDE Plasma and Ubuntu, Dash to Dock, Plank and others. Busy is an empty bar, paused looks like running, and what was stopped asks for attention.</source>
+        <translation>לרשומה של היישום הזה יש פס, במעגנים שמכירים את קובץ שולחן העבודה שלו ומציגים התקדמות: אלה של KDE Plasma ו־Ubuntu, של Dash to Dock, של Plank ואחרים. משך לא ידוע הוא פס ריק, השהיה נראית כמו ריצה, ומה שנעצר מבקש תשומת לב.</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>במקומות אחרים</translation>
+    </message>
+    <message>
+        <source>Nothing is seen.</source>
+        <translation>לא רואים דבר.</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>התקדמות</translation>
+    </message>
+    <message>
+        <source>End the operation</source>
+        <translation>סיום הפעולה</translation>
+    </message>
+    <message>
+        <source>Desktop file</source>
+        <translation>קובץ שולחן עבודה</translation>
+    </message>
+    <message>
+        <source>There is no operation.</source>
+        <translation>אין פעולה.</translation>
+    </message>
+    <message>
+        <source>The indicator is hidden.</source>
+        <translation>המחוון מוסתר.</translation>
+    </message>
+    <message>
+        <source>The operation was stopped.</source>
+        <translation>הפעולה נעצרה.</translation>
+    </message>
+    <message>
+        <source>The operation is paused.</source>
+        <translation>הפעולה מושהית.</translation>
+    </message>
+    <message>
+        <source>The operation runs; how far it is nobody knows.</source>
+        <translation>הפעולה רצה; איש אינו יודע עד כמה התקדמה.</translation>
+    </message>
+    <message>
+        <source>The operation runs.</source>
+        <translation>הפעולה רצה.</translation>
     </message>
 </context>
 <context>

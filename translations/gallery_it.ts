@@ -63,6 +63,10 @@
         <source>File dialogs</source>
         <translation>Finestre di dialogo dei file</translation>
     </message>
+    <message>
+        <source>Taskbar</source>
+        <translation>Barra delle applicazioni</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -754,6 +758,73 @@
     <message>
         <source>Signals appear here.</source>
         <translation>I segnali appaiono qui.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::TaskbarPage</name>
+    <message>
+        <source>Move the slider or press a button, and look at the taskbar or dock of your desktop: that begins an operation. Below stands what was asked for, and what is seen of it where.</source>
+        <translation>Sposta il cursore o premi un pulsante e guarda la barra delle applicazioni o la dock del tuo desktop: così inizia un&apos;operazione. Sotto sta ciò che è stato chiesto, e che cosa se ne vede e dove.</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Windows</translation>
+    </message>
+    <message>
+        <source>The button of this window in the taskbar fills: green while the operation runs, yellow when it is paused, red when it was stopped. A busy one has a light that runs through it.</source>
+        <translation>Il pulsante di questa finestra nella barra delle applicazioni si riempie: verde mentre l&apos;operazione è in corso, giallo se è in pausa, rosso se è stata interrotta. Se la durata è ignota, lo attraversa una luce.</translation>
+    </message>
+    <message>
+        <source>Linux</source>
+        <translation>Linux</translation>
+    </message>
+    <message>
+        <source>The entry of this application has a bar, in docks that know its desktop file and show progress: those of KDE Plasma and Ubuntu, Dash to Dock, Plank and others. Busy is an empty bar, paused looks like running, and what was stopped asks for attention.</source>
+        <translation>La voce di questa applicazione ha una barra, nelle dock che conoscono il suo file desktop e mostrano l&apos;avanzamento: quelle di KDE Plasma e Ubuntu, Dash to Dock, Plank e altre. La durata ignota è una barra vuota, la pausa sembra in corso, e ciò che è stato interrotto chiede attenzione.</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>Altrove</translation>
+    </message>
+    <message>
+        <source>Nothing is seen.</source>
+        <translation>Non si vede nulla.</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Avanzamento</translation>
+    </message>
+    <message>
+        <source>End the operation</source>
+        <translation>Termina l&apos;operazione</translation>
+    </message>
+    <message>
+        <source>Desktop file</source>
+        <translation>File desktop</translation>
+    </message>
+    <message>
+        <source>There is no operation.</source>
+        <translation>Non c&apos;è alcuna operazione.</translation>
+    </message>
+    <message>
+        <source>The indicator is hidden.</source>
+        <translation>L&apos;indicatore è nascosto.</translation>
+    </message>
+    <message>
+        <source>The operation was stopped.</source>
+        <translation>L&apos;operazione è stata interrotta.</translation>
+    </message>
+    <message>
+        <source>The operation is paused.</source>
+        <translation>L&apos;operazione è in pausa.</translation>
+    </message>
+    <message>
+        <source>The operation runs; how far it is nobody knows.</source>
+        <translation>L&apos;operazione è in corso; a che punto sia nessuno lo sa.</translation>
+    </message>
+    <message>
+        <source>The operation runs.</source>
+        <translation>L&apos;operazione è in corso.</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,10 @@
         <source>File dialogs</source>
         <translation>ファイルダイアログ</translation>
     </message>
+    <message>
+        <source>Taskbar</source>
+        <translation>タスクバー</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -754,6 +758,73 @@
     <message>
         <source>Signals appear here.</source>
         <translation>シグナルはここに表示されます。</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::TaskbarPage</name>
+    <message>
+        <source>Move the slider or press a button, and look at the taskbar or dock of your desktop: that begins an operation. Below stands what was asked for, and what is seen of it where.</source>
+        <translation>スライダーを動かすかボタンを押して、デスクトップのタスクバーやドックを見てください。それで処理が始まります。下には、要求した内容と、どこで何が見えるかが示されます。</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Windows の場合</translation>
+    </message>
+    <message>
+        <source>The button of this window in the taskbar fills: green while the operation runs, yellow when it is paused, red when it was stopped. A busy one has a light that runs through it.</source>
+        <translation>タスクバーにあるこのウィンドウのボタンが塗られていきます。実行中は緑、一時停止中は黄、停止したときは赤です。進捗が不明なときは光が流れます。</translation>
+    </message>
+    <message>
+        <source>Linux</source>
+        <translation>Linux の場合</translation>
+    </message>
+    <message>
+        <source>The entry of this application has a bar, in docks that know its desktop file and show progress: those of KDE Plasma and Ubuntu, Dash to Dock, Plank and others. Busy is an empty bar, paused looks like running, and what was stopped asks for attention.</source>
+        <translation>デスクトップファイルを認識して進捗を表示するドックでは、このアプリケーションの項目にバーが付きます。KDE Plasma、Ubuntu、Dash to Dock、Plank などのドックです。進捗が不明なときは空のバーで、一時停止中は実行中と同じに見え、停止したものは注意を促します。</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>その他の環境</translation>
+    </message>
+    <message>
+        <source>Nothing is seen.</source>
+        <translation>何も表示されません。</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進捗</translation>
+    </message>
+    <message>
+        <source>End the operation</source>
+        <translation>処理を終了</translation>
+    </message>
+    <message>
+        <source>Desktop file</source>
+        <translation>デスクトップファイル</translation>
+    </message>
+    <message>
+        <source>There is no operation.</source>
+        <translation>処理はありません。</translation>
+    </message>
+    <message>
+        <source>The indicator is hidden.</source>
+        <translation>表示は隠されています。</translation>
+    </message>
+    <message>
+        <source>The operation was stopped.</source>
+        <translation>処理は停止されました。</translation>
+    </message>
+    <message>
+        <source>The operation is paused.</source>
+        <translation>処理は一時停止中です。</translation>
+    </message>
+    <message>
+        <source>The operation runs; how far it is nobody knows.</source>
+        <translation>処理は実行中ですが、どこまで進んだかは不明です。</translation>
+    </message>
+    <message>
+        <source>The operation runs.</source>
+        <translation>処理は実行中です。</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,10 @@
         <source>File dialogs</source>
         <translation>Okna wyboru plików</translation>
     </message>
+    <message>
+        <source>Taskbar</source>
+        <translation>Pasek zadań</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -754,6 +758,73 @@
     <message>
         <source>Signals appear here.</source>
         <translation>Tutaj pojawiają się sygnały.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::TaskbarPage</name>
+    <message>
+        <source>Move the slider or press a button, and look at the taskbar or dock of your desktop: that begins an operation. Below stands what was asked for, and what is seen of it where.</source>
+        <translation>Przesuń suwak lub naciśnij przycisk i spójrz na pasek zadań lub dok pulpitu: tak zaczyna się operacja. Poniżej widać, czego zażądano oraz co i gdzie się pojawia.</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Windows</translation>
+    </message>
+    <message>
+        <source>The button of this window in the taskbar fills: green while the operation runs, yellow when it is paused, red when it was stopped. A busy one has a light that runs through it.</source>
+        <translation>Przycisk tego okna na pasku zadań wypełnia się: na zielono, gdy operacja trwa, na żółto, gdy jest wstrzymana, na czerwono, gdy ją przerwano. Przy nieznanym postępie przebiega przez niego światło.</translation>
+    </message>
+    <message>
+        <source>Linux</source>
+        <translation>Linux</translation>
+    </message>
+    <message>
+        <source>The entry of this application has a bar, in docks that know its desktop file and show progress: those of KDE Plasma and Ubuntu, Dash to Dock, Plank and others. Busy is an empty bar, paused looks like running, and what was stopped asks for attention.</source>
+        <translation>Pozycja tej aplikacji ma pasek w dokach, które znają jej plik desktop i pokazują postęp: w KDE Plasma i Ubuntu, Dash to Dock, Plank i innych. Nieznany postęp to pusty pasek, wstrzymanie wygląda jak działanie, a przerwana operacja prosi o uwagę.</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>Gdzie indziej</translation>
+    </message>
+    <message>
+        <source>Nothing is seen.</source>
+        <translation>Nic nie widać.</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Postęp</translation>
+    </message>
+    <message>
+        <source>End the operation</source>
+        <translation>Zakończ operację</translation>
+    </message>
+    <message>
+        <source>Desktop file</source>
+        <translation>Plik desktop</translation>
+    </message>
+    <message>
+        <source>There is no operation.</source>
+        <translation>Nie ma żadnej operacji.</translation>
+    </message>
+    <message>
+        <source>The indicator is hidden.</source>
+        <translation>Wskaźnik jest ukryty.</translation>
+    </message>
+    <message>
+        <source>The operation was stopped.</source>
+        <translation>Operację przerwano.</translation>
+    </message>
+    <message>
+        <source>The operation is paused.</source>
+        <translation>Operacja jest wstrzymana.</translation>
+    </message>
+    <message>
+        <source>The operation runs; how far it is nobody knows.</source>
+        <translation>Operacja trwa; jak daleko zaszła, nikt nie wie.</translation>
+    </message>
+    <message>
+        <source>The operation runs.</source>
+        <translation>Operacja trwa.</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,10 @@
         <source>File dialogs</source>
         <translation>Caixas de diálogo de arquivos</translation>
     </message>
+    <message>
+        <source>Taskbar</source>
+        <translation>Barra de tarefas</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -754,6 +758,73 @@
     <message>
         <source>Signals appear here.</source>
         <translation>Os sinais aparecem aqui.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::TaskbarPage</name>
+    <message>
+        <source>Move the slider or press a button, and look at the taskbar or dock of your desktop: that begins an operation. Below stands what was asked for, and what is seen of it where.</source>
+        <translation>Mova o controle deslizante ou pressione um botão e olhe para a barra de tarefas ou a dock da sua área de trabalho: assim começa uma operação. Abaixo está o que foi pedido, e o que se vê disso e onde.</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Windows</translation>
+    </message>
+    <message>
+        <source>The button of this window in the taskbar fills: green while the operation runs, yellow when it is paused, red when it was stopped. A busy one has a light that runs through it.</source>
+        <translation>O botão desta janela na barra de tarefas se enche: verde enquanto a operação corre, amarelo quando está em pausa, vermelho quando foi interrompida. Se o progresso é desconhecido, uma luz o percorre.</translation>
+    </message>
+    <message>
+        <source>Linux</source>
+        <translation>Linux</translation>
+    </message>
+    <message>
+        <source>The entry of this application has a bar, in docks that know its desktop file and show progress: those of KDE Plasma and Ubuntu, Dash to Dock, Plank and others. Busy is an empty bar, paused looks like running, and what was stopped asks for attention.</source>
+        <translation>A entrada deste aplicativo tem uma barra, nas docks que conhecem seu arquivo desktop e mostram o progresso: as do KDE Plasma e do Ubuntu, Dash to Dock, Plank e outras. Progresso desconhecido é uma barra vazia, em pausa parece em andamento, e o que foi interrompido pede atenção.</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>Em outros sistemas</translation>
+    </message>
+    <message>
+        <source>Nothing is seen.</source>
+        <translation>Não se vê nada.</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
+    <message>
+        <source>End the operation</source>
+        <translation>Encerrar a operação</translation>
+    </message>
+    <message>
+        <source>Desktop file</source>
+        <translation>Arquivo desktop</translation>
+    </message>
+    <message>
+        <source>There is no operation.</source>
+        <translation>Não há nenhuma operação.</translation>
+    </message>
+    <message>
+        <source>The indicator is hidden.</source>
+        <translation>O indicador está oculto.</translation>
+    </message>
+    <message>
+        <source>The operation was stopped.</source>
+        <translation>A operação foi interrompida.</translation>
+    </message>
+    <message>
+        <source>The operation is paused.</source>
+        <translation>A operação está em pausa.</translation>
+    </message>
+    <message>
+        <source>The operation runs; how far it is nobody knows.</source>
+        <translation>A operação está em andamento; ninguém sabe em que ponto está.</translation>
+    </message>
+    <message>
+        <source>The operation runs.</source>
+        <translation>A operação está em andamento.</translation>
     </message>
 </context>
 <context>

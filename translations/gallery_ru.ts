@@ -63,6 +63,10 @@
         <source>File dialogs</source>
         <translation>Диалоги файлов</translation>
     </message>
+    <message>
+        <source>Taskbar</source>
+        <translation>Панель задач</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -754,6 +758,73 @@
     <message>
         <source>Signals appear here.</source>
         <translation>Здесь появляются сигналы.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::TaskbarPage</name>
+    <message>
+        <source>Move the slider or press a button, and look at the taskbar or dock of your desktop: that begins an operation. Below stands what was asked for, and what is seen of it where.</source>
+        <translation>Передвиньте ползунок или нажмите кнопку и посмотрите на панель задач или док рабочего стола: так начинается операция. Ниже указано, что было запрошено и что из этого где видно.</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>В Windows</translation>
+    </message>
+    <message>
+        <source>The button of this window in the taskbar fills: green while the operation runs, yellow when it is paused, red when it was stopped. A busy one has a light that runs through it.</source>
+        <translation>Кнопка этого окна на панели задач заполняется: зелёным, пока операция идёт, жёлтым, когда она приостановлена, красным, если её остановили. Если ход неизвестен, по кнопке пробегает свет.</translation>
+    </message>
+    <message>
+        <source>Linux</source>
+        <translation>В Linux</translation>
+    </message>
+    <message>
+        <source>The entry of this application has a bar, in docks that know its desktop file and show progress: those of KDE Plasma and Ubuntu, Dash to Dock, Plank and others. Busy is an empty bar, paused looks like running, and what was stopped asks for attention.</source>
+        <translation>У значка этого приложения появляется полоса в доках, которые знают его desktop-файл и показывают ход операций: в KDE Plasma и Ubuntu, Dash to Dock, Plank и других. Неизвестный ход — пустая полоса, пауза выглядит как работа, а остановленное просит внимания.</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>В других системах</translation>
+    </message>
+    <message>
+        <source>Nothing is seen.</source>
+        <translation>Ничего не видно.</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Ход операции</translation>
+    </message>
+    <message>
+        <source>End the operation</source>
+        <translation>Завершить операцию</translation>
+    </message>
+    <message>
+        <source>Desktop file</source>
+        <translation>Файл desktop</translation>
+    </message>
+    <message>
+        <source>There is no operation.</source>
+        <translation>Операции нет.</translation>
+    </message>
+    <message>
+        <source>The indicator is hidden.</source>
+        <translation>Индикатор скрыт.</translation>
+    </message>
+    <message>
+        <source>The operation was stopped.</source>
+        <translation>Операция остановлена.</translation>
+    </message>
+    <message>
+        <source>The operation is paused.</source>
+        <translation>Операция приостановлена.</translation>
+    </message>
+    <message>
+        <source>The operation runs; how far it is nobody knows.</source>
+        <translation>Операция идёт; насколько она продвинулась, никто не знает.</translation>
+    </message>
+    <message>
+        <source>The operation runs.</source>
+        <translation>Операция идёт.</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,10 @@
         <source>File dialogs</source>
         <translation>Діалоги файлів</translation>
     </message>
+    <message>
+        <source>Taskbar</source>
+        <translation>Панель завдань</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -754,6 +758,73 @@
     <message>
         <source>Signals appear here.</source>
         <translation>Тут з&apos;являються сигнали.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::TaskbarPage</name>
+    <message>
+        <source>Move the slider or press a button, and look at the taskbar or dock of your desktop: that begins an operation. Below stands what was asked for, and what is seen of it where.</source>
+        <translation>Пересуньте повзунок або натисніть кнопку й погляньте на панель завдань чи док стільниці: так починається операція. Нижче вказано, що було запитано і що з цього де видно.</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>У Windows</translation>
+    </message>
+    <message>
+        <source>The button of this window in the taskbar fills: green while the operation runs, yellow when it is paused, red when it was stopped. A busy one has a light that runs through it.</source>
+        <translation>Кнопка цього вікна на панелі завдань заповнюється: зеленим, поки операція триває, жовтим, коли її призупинено, червоним, якщо її зупинено. Якщо перебіг невідомий, кнопкою пробігає світло.</translation>
+    </message>
+    <message>
+        <source>Linux</source>
+        <translation>У Linux</translation>
+    </message>
+    <message>
+        <source>The entry of this application has a bar, in docks that know its desktop file and show progress: those of KDE Plasma and Ubuntu, Dash to Dock, Plank and others. Busy is an empty bar, paused looks like running, and what was stopped asks for attention.</source>
+        <translation>Значок цієї програми має смугу в доках, які знають її desktop-файл і показують перебіг: у KDE Plasma та Ubuntu, Dash to Dock, Plank та інших. Невідомий перебіг — порожня смуга, пауза виглядає як робота, а зупинене просить уваги.</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>В інших системах</translation>
+    </message>
+    <message>
+        <source>Nothing is seen.</source>
+        <translation>Нічого не видно.</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Перебіг</translation>
+    </message>
+    <message>
+        <source>End the operation</source>
+        <translation>Завершити операцію</translation>
+    </message>
+    <message>
+        <source>Desktop file</source>
+        <translation>Файл desktop</translation>
+    </message>
+    <message>
+        <source>There is no operation.</source>
+        <translation>Операції немає.</translation>
+    </message>
+    <message>
+        <source>The indicator is hidden.</source>
+        <translation>Індикатор сховано.</translation>
+    </message>
+    <message>
+        <source>The operation was stopped.</source>
+        <translation>Операцію зупинено.</translation>
+    </message>
+    <message>
+        <source>The operation is paused.</source>
+        <translation>Операцію призупинено.</translation>
+    </message>
+    <message>
+        <source>The operation runs; how far it is nobody knows.</source>
+        <translation>Операція триває; наскільки вона просунулася, ніхто не знає.</translation>
+    </message>
+    <message>
+        <source>The operation runs.</source>
+        <translation>Операція триває.</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,10 @@
         <source>File dialogs</source>
         <translation>文件对话框</translation>
     </message>
+    <message>
+        <source>Taskbar</source>
+        <translation>任务栏</translation>
+    </message>
 </context>
 <context>
     <name>Gallery::AdvancedColorPickerPage</name>
@@ -754,6 +758,73 @@
     <message>
         <source>Signals appear here.</source>
         <translation>信号显示在此处。</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::TaskbarPage</name>
+    <message>
+        <source>Move the slider or press a button, and look at the taskbar or dock of your desktop: that begins an operation. Below stands what was asked for, and what is seen of it where.</source>
+        <translation>移动滑块或按下按钮，然后查看桌面的任务栏或程序坞：操作就此开始。下方显示所请求的内容，以及在何处能看到什么。</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>Windows 系统</translation>
+    </message>
+    <message>
+        <source>The button of this window in the taskbar fills: green while the operation runs, yellow when it is paused, red when it was stopped. A busy one has a light that runs through it.</source>
+        <translation>任务栏上此窗口的按钮会逐渐填满：操作进行时为绿色，暂停时为黄色，停止时为红色。进度不明时有光带掠过。</translation>
+    </message>
+    <message>
+        <source>Linux</source>
+        <translation>Linux 系统</translation>
+    </message>
+    <message>
+        <source>The entry of this application has a bar, in docks that know its desktop file and show progress: those of KDE Plasma and Ubuntu, Dash to Dock, Plank and others. Busy is an empty bar, paused looks like running, and what was stopped asks for attention.</source>
+        <translation>在识别其桌面文件并显示进度的程序坞中，此应用程序的条目会带有进度条：如 KDE Plasma 和 Ubuntu 的程序坞、Dash to Dock、Plank 等。进度不明时为空条，暂停看起来与运行相同，而已停止的会请求注意。</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>其他系统</translation>
+    </message>
+    <message>
+        <source>Nothing is seen.</source>
+        <translation>什么也看不到。</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>End the operation</source>
+        <translation>结束操作</translation>
+    </message>
+    <message>
+        <source>Desktop file</source>
+        <translation>桌面文件</translation>
+    </message>
+    <message>
+        <source>There is no operation.</source>
+        <translation>没有操作。</translation>
+    </message>
+    <message>
+        <source>The indicator is hidden.</source>
+        <translation>指示器已隐藏。</translation>
+    </message>
+    <message>
+        <source>The operation was stopped.</source>
+        <translation>操作已停止。</translation>
+    </message>
+    <message>
+        <source>The operation is paused.</source>
+        <translation>操作已暂停。</translation>
+    </message>
+    <message>
+        <source>The operation runs; how far it is nobody knows.</source>
+        <translation>操作正在进行；进展到哪里无人知晓。</translation>
+    </message>
+    <message>
+        <source>The operation runs.</source>
+        <translation>操作正在进行。</translation>
     </message>
 </context>
 <context>
