@@ -54,6 +54,7 @@ int main(int argc, char* argv[])
     QPainter(&rainbow).fillRect(rainbow.rect(), hues);
     picture->setPixmap(rainbow);
     auto* eyedropper = new WidgetColorPickerButton;
+    eyedropper->setText(QStringLiteral("Pick"));
     eyedropper->setTargetWidget(picture);
     layout->addRow(eyedropper, picture);
 

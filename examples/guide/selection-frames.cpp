@@ -1,6 +1,5 @@
 #include <KQt/Ui/SelectionFrameWidget/ImageWatermarkItem.h>
 #include <KQt/Ui/SelectionFrameWidget/ISelectionFrameEventHandler.h>
-#include <KQt/Ui/SelectionFrameWidget/SelectionFrameItem.h>
 #include <KQt/Ui/SelectionFrameWidget/TextWatermarkItem.h>
 
 #include <QApplication>
@@ -37,19 +36,14 @@ int main(int argc, char* argv[])
     QGraphicsScene scene(work.adjusted(-40, -40, 40, 40));
     scene.addRect(work, Qt::NoPen, QColor(70, 110, 140));
     view.setScene(&scene);
-    // The region's veil reaches beyond the item itself.
-    view.setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
-
-    auto* region = new SelectionFrameItem(&events);
-    scene.addItem(region);
-    region->Initialize(work, QRectF(40, 40, 300, 180));
 
     auto* text = new TextWatermarkItem(&events);
     scene.addItem(text);
     text->SetText(QStringLiteral("Draft"));
+    text->SetFont(QFont(QStringLiteral("DejaVu Sans"), 48));
     text->SetFillColor(Qt::white);
     text->SetOutlineColor(Qt::darkRed);
-    text->Initialize(work, QRectF(60, 60, 140, 50));
+    text->Initialize(work, QRectF(60, 60, 160, 60));
 
     auto* stamp = new ImageWatermarkItem(&events);
     scene.addItem(stamp);

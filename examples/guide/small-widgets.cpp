@@ -7,6 +7,7 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QMainWindow>
+#include <QPushButton>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -19,7 +20,7 @@ int main(int argc, char* argv[])
     // The pickers' buttons have no icons of their own; here they get letters.
     application.setStyleSheet(QStringLiteral("QToolButton[styleTag=\"Bold\"] { font-weight: bold; }"
                                              "QToolButton[styleTag=\"Italic\"] { font-style: italic; }"
-                                             "QToolButton[styleTag=\"star\"] { color: goldenrod; border: none; }"));
+                                             "#durationLabel { color: white; padding: 2px; }"));
 
     QMainWindow window;
     auto* text = new QLabel(QStringLiteral("The quick brown fox"));
@@ -27,6 +28,7 @@ int main(int argc, char* argv[])
 
     auto* style = new FontStylePicker;
     auto* alignment = new TextAlignPicker;
+    // In the order in which they stand.
     const auto letters = [](QWidget* picker, const QStringList& names) {
         const QList<QToolButton*> buttons = picker->findChildren<QToolButton*>();
         for (int i = 0; i < qMin(buttons.size(), names.size()); ++i)
@@ -45,6 +47,8 @@ int main(int argc, char* argv[])
     auto* panel = new QDockWidget;
     auto* titleBar = new StyledDockWidgetTitlebar;
     panel->setTitleBarWidget(titleBar);
+    titleBar->findChild<QPushButton*>(QStringLiteral("Restore"))->setText(QStringLiteral("^"));
+    titleBar->findChild<QPushButton*>(QStringLiteral("Close"))->setText(QStringLiteral("x"));
     QObject::connect(titleBar, &StyledDockWidgetTitlebar::Close, panel, &QDockWidget::close);
     QObject::connect(titleBar, &StyledDockWidgetTitlebar::Detach, panel,
                      [panel] { panel->setFloating(!panel->isFloating()); });
@@ -58,6 +62,8 @@ int main(int argc, char* argv[])
     tile->setPlayIsVisible(true);
     tile->GetDurationLabel()->setText(QStringLiteral("1:23"));
     QObject::connect(tile, &PreviewImageLabel::playClicked, text, [text] { text->setText(QStringLiteral("Playing")); });
+    tile->findChild<QToolButton*>(QStringLiteral("starButton"))->setText(QStringLiteral("*"));
+    tile->findChild<QToolButton*>(QStringLiteral("playButton"))->setText(QStringLiteral(">"));
     panel->setWidget(tile);
     window.addDockWidget(Qt::RightDockWidgetArea, panel);
 

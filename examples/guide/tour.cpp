@@ -124,10 +124,10 @@ int main(int argc, char* argv[])
 
     // The controller has to exist before the widgets are shown for the first time.
     WalkthroughController controller;
-    controller.addHints(new TourHint);
-    // A group of the application's own; its first state is the one that it starts in.
+    // A group of the application's own starts in the state that is made first. The conditions of the hints make states,
+    // too, so this one comes before them.
     controller.findOrCreateState(QStringLiteral("text/unchanged"));
-    controller.findOrCreateState(QStringLiteral("text/changed"));
+    controller.addHints(new TourHint);
     QObject::connect(editor, &QTextEdit::textChanged, &controller,
                      [&controller] { controller.gotoState(QStringLiteral("text/changed")); });
 
