@@ -54,7 +54,7 @@ int main(int argc, char* argv[])
     QPainter(&rainbow).fillRect(rainbow.rect(), hues);
     picture->setPixmap(rainbow);
     auto* eyedropper = new WidgetColorPickerButton;
-    eyedropper->setText(QStringLiteral("Pick"));
+    eyedropper->setToolTip(QStringLiteral("Pick a colour from the picture"));
     eyedropper->setTargetWidget(picture);
     layout->addRow(eyedropper, picture);
 
