@@ -18,10 +18,9 @@ FileDialogParentGuard::~FileDialogParentGuard() = default;
 // stack is the first that came.
 void FileDialogParentGuard::rescueFrom(QObject* parent)
 {
-    const QObjectList children = parent->children();
-    for (QObject* child : children) {
-        auto* dialog = qobject_cast<QFileDialog*>(child);
-        if (dialog && !m_earlierChildren.contains(dialog)) {
+    const auto dialogs = parent->findChildren<QFileDialog*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QFileDialog* dialog : dialogs) {
+        if (!m_earlierChildren.contains(dialog)) {
             dialog->setParent(nullptr);
             dialog->reject();
             return;
