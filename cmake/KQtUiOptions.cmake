@@ -7,6 +7,8 @@ endif()
 option(BUILD_SHARED_LIBS "Build KQtUi as a shared library" ON)
 option(KQTUI_BUILD_TESTS "Build the tests" ${kqtui_top_level})
 option(KQTUI_BUILD_EXAMPLES "Build the gallery" ${kqtui_top_level})
+option(KQTUI_BUILD_DESIGNER_PLUGIN "Build the plugin for Qt Designer, where Qt's libraries for it are found"
+  ${kqtui_top_level})
 option(KQTUI_BUILD_BENCHMARKS "Build the benchmarks (Google Benchmark)" OFF)
 option(KQTUI_BUILD_FUZZERS "Build the fuzzers (clang's libFuzzer)" OFF)
 option(KQTUI_DEBIAN_PACKAGES "cpack makes Debian packages; for an installation to /usr" OFF)
