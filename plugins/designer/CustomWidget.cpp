@@ -1,9 +1,5 @@
 #include "CustomWidget.h"
 
-#include <QCoreApplication>
-#include <QtDesigner/QDesignerFormEditorInterface>
-#include <QtDesigner/QDesignerPropertySheetExtension>
-#include <QtDesigner/QExtensionManager>
 #include <QWidget>
 #include <QXmlStreamWriter>
 
@@ -34,6 +30,14 @@ void writeText(QXmlStreamWriter& xml, const char* property, const QString& text)
     xml.writeEndElement();
 }
 
+void writeHorizontal(QXmlStreamWriter& xml)
+{
+    xml.writeStartElement(QStringLiteral("property"));
+    xml.writeAttribute(QStringLiteral("name"), QStringLiteral("orientation"));
+    xml.writeTextElement(QStringLiteral("enum"), QStringLiteral("Qt::Horizontal"));
+    xml.writeEndElement();
+}
+
 void writeMultiLineProperty(QXmlStreamWriter& xml, const char* property)
 {
     xml.writeStartElement(QStringLiteral("propertyspecifications"));
@@ -51,6 +55,8 @@ void writeNewWidget(QXmlStreamWriter& xml, const WidgetEntry& entry)
     writeGeometry(xml, entry.size);
     if (entry.text)
         writeText(xml, entry.text, entry.plainName());
+    if (entry.horizontal)
+        writeHorizontal(xml);
     xml.writeEndElement();
 }
 
@@ -115,22 +121,19 @@ bool CustomWidget::isContainer() const
 
 QWidget* CustomWidget::createWidget(QWidget* parent)
 {
-    QWidget* widget = m_entry.create(parent);
-    if (m_editor && m_entry.hiddenProperty)
-        hideProperty(widget);
-    return widget;
+    return m_entry.create(parent);
 }
 
 bool CustomWidget::isInitialized() const
 {
-    return m_editor != nullptr;
+    return m_initialized;
 }
 
 void CustomWidget::initialize(QDesignerFormEditorInterface* editor)
 {
     if (isInitialized())
         return;
-    m_editor = editor;
+    m_initialized = true;
     m_initializeEditor(editor);
 }
 
@@ -145,13 +148,6 @@ QString CustomWidget::domXml() const
     writeClass(xml, m_entry);
     xml.writeEndElement();
     return result;
-}
-
-void CustomWidget::hideProperty(QWidget* widget) const
-{
-    auto* sheet = qt_extension<QDesignerPropertySheetExtension*>(m_editor->extensionManager(), widget);
-    if (sheet)
-        sheet->setVisible(sheet->indexOf(QString::fromLatin1(m_entry.hiddenProperty)), false);
 }
 
 } // namespace Kestrel::Gui::Designer

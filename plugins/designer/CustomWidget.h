@@ -35,11 +35,9 @@ public:
     QString domXml() const override;
 
 private:
-    void hideProperty(QWidget* widget) const;
-
     const WidgetEntry& m_entry;
     std::function<void(QDesignerFormEditorInterface*)> m_initializeEditor;
-    QDesignerFormEditorInterface* m_editor = nullptr;
+    bool m_initialized = false;
 };
 
 } // namespace Kestrel::Gui::Designer

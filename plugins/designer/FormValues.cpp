@@ -13,9 +13,9 @@ namespace Kestrel::Gui::Designer {
 
 namespace {
 
-QMap<QString, QVariant> plainValues(const WalkthroughProperties& properties)
+FormProperties::Values plainValues(const WalkthroughProperties& properties)
 {
-    QMap<QString, QVariant> values;
+    FormProperties::Values values;
     const auto add = [&values](const char* name, const QString& value) {
         if (!value.isEmpty())
             values.insert(QString::fromLatin1(name), value);
@@ -48,7 +48,7 @@ void writeValue(QXmlStreamWriter& xml, const QVariant& value)
     xml.writeEndElement();
 }
 
-QString formWith(const QMap<QString, QVariant>& values)
+QString formWith(const FormProperties::Values& values)
 {
     QString form;
     QXmlStreamWriter xml(&form);
@@ -71,9 +71,9 @@ QString formWith(const QMap<QString, QVariant>& values)
 
 } // namespace
 
-QMap<QString, QVariant> formValues(QDesignerFormEditorInterface& editor, const WalkthroughProperties& properties)
+FormProperties::Values formValues(QDesignerFormEditorInterface& editor, const WalkthroughProperties& properties)
 {
-    QMap<QString, QVariant> values = plainValues(properties);
+    FormProperties::Values values = plainValues(properties);
     // Only a form that is read makes texts that are not translated: the type that holds them is Designer's own.
     const std::unique_ptr<QDesignerFormWindowInterface> form(editor.formWindowManager()->createFormWindow());
     form->setContents(formWith(values));

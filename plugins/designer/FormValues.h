@@ -1,9 +1,6 @@
 #pragma once
 
-#include "WalkthroughProperties.h"
-
-#include <QMap>
-#include <QVariant>
+#include "FormProperties.h"
 
 QT_BEGIN_NAMESPACE
 class QDesignerFormEditorInterface;
@@ -14,6 +11,6 @@ namespace Kestrel::Gui::Designer {
 /// Walkthrough properties as a form editor keeps them, by name; those that are empty are not among them.
 ///
 /// The names are marked as not to be translated: a translated name would not be found again.
-QMap<QString, QVariant> formValues(QDesignerFormEditorInterface& editor, const WalkthroughProperties& properties);
+FormProperties::Values formValues(QDesignerFormEditorInterface& editor, const WalkthroughProperties& properties);
 
 } // namespace Kestrel::Gui::Designer

@@ -3,29 +3,11 @@
 #include "FormValues.h"
 
 #include <QCoreApplication>
-#include <QtDesigner/QDesignerDynamicPropertySheetExtension>
 #include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QDesignerPropertyEditorInterface>
-#include <QtDesigner/QDesignerPropertySheetExtension>
-#include <QtDesigner/QExtensionManager>
 
 namespace Kestrel::Gui::Designer {
-
-namespace {
-
-QStringList propertyNames()
-{
-    return {QString::fromLatin1(PropertyName::target), QString::fromLatin1(PropertyName::hint),
-            QString::fromLatin1(PropertyName::alignment), QString::fromLatin1(PropertyName::conditions)};
-}
-
-bool has(const QWidget& widget, const QString& property)
-{
-    return widget.dynamicPropertyNames().contains(property.toLatin1());
-}
-
-} // namespace
 
 WalkthroughPropertiesCommand::WalkthroughPropertiesCommand(QDesignerFormWindowInterface& form, QWidget& widget,
                                                            const WalkthroughProperties& properties)
@@ -34,7 +16,7 @@ WalkthroughPropertiesCommand::WalkthroughPropertiesCommand(QDesignerFormWindowIn
                        .arg(widget.objectName()))
     , m_form(form)
     , m_widget(&widget)
-    , m_before(currentValues())
+    , m_before(FormProperties(*form.core(), widget).values())
     , m_after(formValues(*form.core(), properties))
 {
 }
@@ -51,51 +33,12 @@ void WalkthroughPropertiesCommand::undo()
     apply(m_before);
 }
 
-QDesignerPropertySheetExtension* WalkthroughPropertiesCommand::sheet() const
-{
-    return qt_extension<QDesignerPropertySheetExtension*>(m_form.core()->extensionManager(), m_widget);
-}
-
-WalkthroughPropertiesCommand::Values WalkthroughPropertiesCommand::currentValues() const
-{
-    Values values;
-    const QStringList names = propertyNames();
-    for (const QString& name : names)
-        if (has(*m_widget, name))
-            values.insert(name, sheet()->property(sheet()->indexOf(name)));
-    return values;
-}
-
-void WalkthroughPropertiesCommand::apply(const Values& values)
+void WalkthroughPropertiesCommand::apply(const FormProperties::Values& values)
 {
     if (!m_widget)
         return;
-    const QStringList names = propertyNames();
-    for (const QString& name : names) {
-        if (values.contains(name))
-            set(name, values.value(name));
-        else if (has(*m_widget, name))
-            remove(name);
-    }
+    FormProperties(*m_form.core(), *m_widget).setValues(values);
     renewPropertyEditor();
-}
-
-void WalkthroughPropertiesCommand::set(const QString& name, const QVariant& value)
-{
-    if (!has(*m_widget, name)) {
-        auto* dynamic =
-            qt_extension<QDesignerDynamicPropertySheetExtension*>(m_form.core()->extensionManager(), m_widget);
-        dynamic->addDynamicProperty(name, value);
-    }
-    const int index = sheet()->indexOf(name);
-    sheet()->setProperty(index, value);
-    sheet()->setChanged(index, true);
-}
-
-void WalkthroughPropertiesCommand::remove(const QString& name)
-{
-    auto* dynamic = qt_extension<QDesignerDynamicPropertySheetExtension*>(m_form.core()->extensionManager(), m_widget);
-    dynamic->removeDynamicProperty(sheet()->indexOf(name));
 }
 
 void WalkthroughPropertiesCommand::renewPropertyEditor()

@@ -1,16 +1,13 @@
 #pragma once
 
-#include "WalkthroughProperties.h"
+#include "FormProperties.h"
 
-#include <QMap>
 #include <QPointer>
 #include <QUndoCommand>
-#include <QVariant>
 #include <QWidget>
 
 QT_BEGIN_NAMESPACE
 class QDesignerFormWindowInterface;
-class QDesignerPropertySheetExtension;
 QT_END_NAMESPACE
 
 namespace Kestrel::Gui::Designer {
@@ -29,19 +26,13 @@ public:
     void undo() override;
 
 private:
-    using Values = QMap<QString, QVariant>;
-
-    QDesignerPropertySheetExtension* sheet() const;
-    Values currentValues() const;
-    void apply(const Values& values);
-    void set(const QString& name, const QVariant& value);
-    void remove(const QString& name);
+    void apply(const FormProperties::Values& values);
     void renewPropertyEditor();
 
     QDesignerFormWindowInterface& m_form;
     QPointer<QWidget> m_widget;
-    Values m_before;
-    Values m_after;
+    FormProperties::Values m_before;
+    FormProperties::Values m_after;
 };
 
 } // namespace Kestrel::Gui::Designer

@@ -1,5 +1,6 @@
 #include "WalkthroughTaskMenu.h"
 
+#include "FormProperties.h"
 #include "WalkthroughPropertiesCommand.h"
 #include "WalkthroughPropertiesDialog.h"
 #include "WalkthroughTaskMenuFactory.h"
@@ -58,7 +59,7 @@ void WalkthroughTaskMenu::edit()
     QDesignerFormWindowInterface* form = QDesignerFormWindowInterface::findFormWindow(m_widget);
     if (!form)
         return;
-    const WalkthroughProperties before = WalkthroughProperties::of(*m_widget);
+    const WalkthroughProperties before = FormProperties(*form->core(), *m_widget).read();
     WalkthroughPropertiesDialog dialog(before, WalkthroughNames::in(*form->mainContainer()), form);
     if (dialog.exec() == QDialog::Accepted && dialog.properties() != before)
         form->commandHistory()->push(new WalkthroughPropertiesCommand(*form, *m_widget, dialog.properties()));

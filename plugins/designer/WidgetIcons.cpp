@@ -12,7 +12,7 @@ namespace {
 constexpr int gridSize = 22; // units of a drawing
 
 // Colours that stand out from light and from dark palettes.
-constexpr QRgb ink = qRgb(92, 102, 118);
+constexpr QRgb ink = qRgb(104, 114, 130);
 constexpr QRgb dim = qRgb(176, 182, 192);
 constexpr QRgb paper = qRgb(250, 250, 250);
 constexpr QRgb blue = qRgb(47, 127, 214);
@@ -21,6 +21,7 @@ constexpr QRgb orange = qRgb(240, 140, 46);
 constexpr QRgb red = qRgb(214, 69, 69);
 constexpr QRgb yellow = qRgb(244, 203, 66);
 constexpr QRgb violet = qRgb(140, 92, 190);
+constexpr QRgb teal = qRgb(64, 190, 190);
 
 QPen stroke(QRgb color, qreal width = 1, Qt::PenStyle style = Qt::SolidLine)
 {
@@ -119,7 +120,7 @@ QIcon render(Drawing drawing)
 
 void advancedColorPicker(QPainter& painter)
 {
-    constexpr QRgb colors[] = {red, orange, yellow, green, blue, violet, paper, dim, ink};
+    constexpr QRgb colors[] = {red, orange, yellow, green, blue, violet, teal, dim, ink};
     constexpr int cell = 7;
     for (int i = 0; i < 9; ++i)
         fill(painter, QRectF(1 + i % 3 * cell, 1 + i / 3 * cell, cell - 1, cell - 1), colors[i]);
@@ -248,7 +249,7 @@ void zeroTickSlider(QPainter& painter)
     line(painter, {11, 4}, {11, 20}, stroke(red, 2));
     painter.setPen(stroke(paper));
     painter.setBrush(QColor(blue));
-    painter.drawEllipse(QPointF(16.5, 9), 4, 4);
+    painter.drawEllipse(QPointF(16, 9), 3.6, 3.6);
 }
 
 void fontStylePicker(QPainter& painter)

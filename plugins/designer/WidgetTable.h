@@ -25,9 +25,9 @@ struct WidgetEntry
     Icons::Drawing drawing = nullptr;
     const char* toolTip = nullptr;
     const char* whatsThis = nullptr;
-    const char* text = nullptr;           ///< property that shows the class's name in a new widget, or null
-    const char* multiLine = nullptr;      ///< text property that takes several lines, or null
-    const char* hiddenProperty = nullptr; ///< left out of the property editor, or null
+    const char* text = nullptr;      ///< property that shows the class's name in a new widget, or null
+    const char* multiLine = nullptr; ///< text property that takes several lines, or null
+    bool horizontal = false;         ///< whether a new widget lies, where its class would have it stand
 
     /// The class name without namespaces.
     QString plainName() const;
