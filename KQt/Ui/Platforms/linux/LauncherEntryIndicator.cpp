@@ -100,8 +100,6 @@ QVariantMap LauncherEntryIndicator::properties() const
 
 void LauncherEntryIndicator::scheduleUpdate()
 {
-    if (m_timer.isActive())
-        return;
     const qint64 passed = m_sinceUpdate.isValid() ? m_sinceUpdate.elapsed() : updateInterval;
     m_timer.start(static_cast<int>(std::max<qint64>(0, updateInterval - passed)));
 }
