@@ -249,7 +249,7 @@ void tst_DialogFileTypes::noEntry_data()
     QTest::addColumn<QString>("filter");
 
     QTest::newRow("null") << QString();
-    QTest::newRow("empty") << QStringLiteral("");
+    QTest::newRow("empty") << QString(QLatin1String(""));
     QTest::newRow("a separator") << QStringLiteral(";;");
     QTest::newRow("separators") << QStringLiteral(";;;;");
     QTest::newRow("many separators") << QString(2 * 5000, u';');

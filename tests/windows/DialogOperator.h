@@ -34,6 +34,8 @@ public:
     HWND owner() const;
     QString title() const;
     HWND okButton() const;
+    /// False where @p condition does not come true in a time that is long enough for every machine.
+    bool waitFor(const std::function<bool()>& condition) const;
     /// Whether somebody else than its class handles the OK button's messages.
     bool isOkButtonHooked() const;
     QStringList fileTypes() const;
@@ -45,7 +47,6 @@ public:
 
 private:
     void run();
-    bool waitFor(const std::function<bool()>& condition) const;
     HWND control(const wchar_t* className, int id) const;
 
     QString m_title;

@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <QVector>
 
+#include <shobjidl.h>
 #include <windows.h>
 
 #include <functional>
@@ -39,6 +40,8 @@ struct DialogScript
     HRESULT setOptionsResult = S_OK;
     HRESULT setTitleResult = S_OK;
     HRESULT setFolderResult = S_OK;
+    /// Gets the folder, which a real dialog would keep.
+    std::function<void(IShellItem*)> onSetFolder;
     HRESULT setFileTypesResult = S_OK;
     HRESULT setFileTypeIndexResult = S_OK;
     HRESULT getFileTypeIndexResult = S_OK;

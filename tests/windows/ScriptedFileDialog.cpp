@@ -121,6 +121,8 @@ HRESULT ScriptedFileDialog::GetOptions(FILEOPENDIALOGOPTIONS* options)
 HRESULT ScriptedFileDialog::SetFolder(IShellItem* folder)
 {
     record(QStringLiteral("SetFolder(%1)").arg(pathOf(folder)));
+    if (m_script.onSetFolder)
+        m_script.onSetFolder(folder);
     return m_script.setFolderResult;
 }
 

@@ -659,10 +659,10 @@ void tst_ScriptedDialogEvents::cleanUpInOrder_data()
 void tst_ScriptedDialogEvents::cleanUpInOrder()
 {
     QFETCH(int, result);
+    QStringList steps;
     EventsStage stage;
     stage.filter = QStringLiteral("All files (*)");
     stage.script.showResult = result;
-    QStringList steps;
     stage.script.whileShown = [&](ScriptedFileDialog& dialog) {
         dialog.events()->OnFolderChange(&dialog);
         dialog.events()->OnSelectionChange(&dialog);
@@ -674,8 +674,10 @@ void tst_ScriptedDialogEvents::cleanUpInOrder()
         };
     };
     stage.open(filesAndDirectories);
-    QCOMPARE(steps.mid(0, 4), (QStringList{QStringLiteral("Unadvise(4711), hooked"), QStringLiteral("GetFileTypeIndex"),
-                                           QStringLiteral("release dialog"), QStringLiteral("CoUninitialize")}));
+    stage.recorder.onCall = nullptr;
+    QCOMPARE(QStringList(steps.mid(0, 4)),
+             (QStringList{QStringLiteral("Unadvise(4711), hooked"), QStringLiteral("GetFileTypeIndex"),
+                          QStringLiteral("release dialog"), QStringLiteral("CoUninitialize")}));
 }
 
 void tst_ScriptedDialogEvents::stringsAreGivenBack()

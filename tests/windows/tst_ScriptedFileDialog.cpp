@@ -177,6 +177,7 @@ private Q_SLOTS:
 
     void startFolder_data();
     void startFolder();
+    void startFolderIsReleased();
     void ownerIsTheParent();
     void parentDiesWhileOpen();
     void parentDiesAndShowFails();
@@ -357,11 +358,11 @@ void tst_ScriptedFileDialog::failureIsLoggedOnceAndQtFollows()
 {
     QFETCH(int, row);
     const Failure failure = failures().at(row);
+    QStringList callsBeforeQt;
     DialogStage stage;
     stage.filter = twoTypes;
     stage.script.fileTypeIndex = 2;
     failure.arrange(stage);
-    QStringList callsBeforeQt;
     stage.recorder.onCall = [&](const QString&) {
         if (stage.qtDialogs.dialogs().isEmpty() && !QApplication::activeModalWidget())
             callsBeforeQt = stage.recorder.calls;
@@ -585,6 +586,20 @@ void tst_ScriptedFileDialog::startFolder()
     StandardDialogs::getOpen(nullptr, QString(), dir, QString(), nullptr, OpenMode::Files);
     QCOMPARE(stage.recorder.callsOf({QStringLiteral("SetFolder")}), calls);
     QVERIFY(stage.endedWell());
+}
+
+void tst_ScriptedFileDialog::startFolderIsReleased()
+{
+    DialogStage stage;
+    IShellItem* kept = nullptr;
+    stage.script.onSetFolder = [&](IShellItem* folder) {
+        kept = folder;
+        kept->AddRef();
+    };
+    StandardDialogs::getOpen(nullptr, QString(), QStringLiteral("C:/windows"), QString(), nullptr, OpenMode::Files);
+    QVERIFY(kept);
+    // Nobody but the test holds it any more.
+    QCOMPARE(kept->Release(), 0UL);
 }
 
 void tst_ScriptedFileDialog::ownerIsTheParent()
