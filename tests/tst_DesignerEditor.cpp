@@ -13,6 +13,7 @@
 #include <QtDesigner/QDesignerComponents>
 #include <QtDesigner/QDesignerDynamicPropertySheetExtension>
 #include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowCursorInterface>
 #include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QDesignerFormWindowManagerInterface>
 #include <QtDesigner/QDesignerIntegration>
@@ -100,6 +101,8 @@ private Q_SLOTS:
 
     void knowsTheWidgets();
     void buildsTheWidgets();
+    void doesNotOfferWhatAFormCannotKeep();
+    void privateSettersAreNotCalledByCompiledForms();
     void formIsSavedAndLoadedAgain();
     void everyWidgetHasTheEntry_data();
     void everyWidgetHasTheEntry();
@@ -244,6 +247,45 @@ void tst_DesignerEditor::buildsTheWidgets()
         ++built;
     }
     QCOMPARE(built, 19);
+}
+
+void tst_DesignerEditor::doesNotOfferWhatAFormCannotKeep()
+{
+    const auto isOffered = [this](const char* className, const char* property) {
+        QWidget* widget =
+            m_editor->widgetFactory()->createWidget(QString::fromLatin1(className), m_form->mainContainer());
+        const auto* sheet = qt_extension<QDesignerPropertySheetExtension*>(m_editor->extensionManager(), widget);
+        return sheet->isVisible(sheet->indexOf(QString::fromLatin1(property)));
+    };
+    // Reads as off while the popup is closed, and would be saved so.
+    QVERIFY(!isOffered("Kestrel::Gui::AdvancedColorPicker", "opacityAdjustmentAvailable"));
+    QVERIFY(isOffered("Kestrel::Gui::AdvancedColorPicker", "toolTip"));
+    QVERIFY(isOffered("Kestrel::Gui::AdvancedComboBox", "tooltipTemplate"));
+    QVERIFY(isOffered("Kestrel::Gui::WidgetColorPickerButton", "changeSelfColor"));
+    QVERIFY(isOffered("CustomSliderWithZeroTick", "tickWidth"));
+}
+
+void tst_DesignerEditor::privateSettersAreNotCalledByCompiledForms()
+{
+    QVERIFY(m_form->setContents(QStringLiteral(
+        R"(<ui version="4.0"><class>Form</class><widget class="QWidget" name="Form">
+<widget class="CustomSliderWithZeroTick" name="slider"/></widget><customwidgets><customwidget>
+<class>CustomSliderWithZeroTick</class><extends>QSlider</extends><header>KQt/Ui/CustomSliderWithZeroTick.h</header>
+</customwidget></customwidgets></ui>)")));
+    QWidget* slider = widget("slider");
+    for (const char* name : {"tickWidth", "tickHeight"}) {
+        m_form->cursor()->setWidgetProperty(slider, QString::fromLatin1(name), 7);
+        QCOMPARE(slider->property(name).toInt(), 7);
+    }
+    for (const char* name : {"topTickEndColor", "bottomTickEndColor", "centerTickColor"}) {
+        m_form->cursor()->setWidgetProperty(slider, QString::fromLatin1(name), QColor(Qt::red));
+        QCOMPARE(slider->property(name).value<QColor>(), QColor(Qt::red));
+    }
+    m_form->cursor()->setWidgetProperty(slider, QStringLiteral("maximum"), 50);
+    const QString saved = m_form->contents();
+    for (const char* name : {"tickWidth", "tickHeight", "topTickEndColor", "bottomTickEndColor", "centerTickColor"})
+        QVERIFY2(saved.contains(QStringLiteral("<property name=\"%1\" stdset=\"0\">").arg(QLatin1String(name))), name);
+    QVERIFY(saved.contains(QLatin1String("<property name=\"maximum\">")));
 }
 
 void tst_DesignerEditor::formIsSavedAndLoadedAgain()

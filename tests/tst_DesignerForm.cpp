@@ -67,7 +67,7 @@ void tst_DesignerForm::setsProperties()
     QCOMPARE(form.ui.namedColour->ColorBoxWidth(), 20);
     QCOMPARE(form.ui.eyedropper->property("changeSelfColor").toBool(), false);
     QVERIFY(form.ui.preview->getStarIsVisible());
-    QCOMPARE(form.ui.balance->tickWidth(), 2); // from its style sheet
+    QCOMPARE(form.ui.balance->tickWidth(), 2);
     QVERIFY(!form.ui.eyedropper->isEnabled()); // until it has a target
     form.ui.eyedropper->setTargetWidget(form.ui.preview);
     QVERIFY(form.ui.eyedropper->isEnabled());

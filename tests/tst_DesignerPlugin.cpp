@@ -238,7 +238,7 @@ void tst_DesignerPlugin::newWidgetIsLoadedFromItsDescription()
     QCOMPARE(QString::fromLatin1(loaded->metaObject()->className()), className);
     // As written in the description: large enough to be seen and taken by the mouse.
     QVERIFY(loaded->width() >= iconSize && loaded->height() >= iconSize);
-    QCOMPARE(loaded->objectName().left(1), plainName(className).left(1).toLower());
+    QCOMPARE(loaded->objectName().at(0), plainName(className).at(0).toLower());
     QCOMPARE(loaded->objectName().mid(1), plainName(className).mid(1));
 }
 

@@ -121,7 +121,7 @@ bool CustomWidget::isContainer() const
 
 QWidget* CustomWidget::createWidget(QWidget* parent)
 {
-    return m_entry.create(parent);
+    return m_initialized ? m_entry.createInEditor(parent) : m_entry.create(parent);
 }
 
 bool CustomWidget::isInitialized() const

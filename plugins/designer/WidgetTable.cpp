@@ -1,5 +1,7 @@
 #include "WidgetTable.h"
 
+#include "FormMetaObject.h"
+
 #include <KQt/Ui/AdvancedColorPicker.h>
 #include <KQt/Ui/AdvancedComboBox.h>
 #include <KQt/Ui/AdvancedSpinBox.h>
@@ -70,6 +72,51 @@ QWidget* create<PreviewImageLabel>(QWidget* parent)
     return tile;
 }
 
+/// What form editors need to treat differently; nothing for most classes.
+template <typename Widget>
+QVector<PropertyTreatment> treatments()
+{
+    return {};
+}
+
+/// It reads as false while the popup is closed, whatever was set, and that would be saved.
+template <>
+QVector<PropertyTreatment> treatments<AdvancedColorPicker>()
+{
+    return {{"opacityAdjustmentAvailable", PropertyTreatment::NotOffered}};
+}
+
+/// The setters of the tick are private: a compiled form cannot call them.
+template <>
+QVector<PropertyTreatment> treatments<CustomSliderWithZeroTick>()
+{
+    return {{"topTickEndColor", PropertyTreatment::SetByProperty},
+            {"bottomTickEndColor", PropertyTreatment::SetByProperty},
+            {"centerTickColor", PropertyTreatment::SetByProperty},
+            {"tickWidth", PropertyTreatment::SetByProperty},
+            {"tickHeight", PropertyTreatment::SetByProperty}};
+}
+
+/// A widget as form editors are to see it.
+template <typename Widget>
+class InEditor : public Widget
+{
+public:
+    using Widget::Widget;
+
+    const QMetaObject* metaObject() const override
+    {
+        static const FormMetaObject treated(Widget::staticMetaObject, treatments<Widget>());
+        return treated.object();
+    }
+};
+
+template <typename Widget>
+WidgetEntry::Factory editorFactory()
+{
+    return treatments<Widget>().isEmpty() ? create<Widget> : create<InEditor<Widget>>;
+}
+
 template <typename Widget>
 WidgetEntry entry(const char* group, QSize size, Icons::Drawing drawing, const char* toolTip, const char* whatsThis,
                   const Extras& extras = Extras())
@@ -78,6 +125,7 @@ WidgetEntry entry(const char* group, QSize size, Icons::Drawing drawing, const c
     return {meta.className(),
             meta.superClass()->className(),
             create<Widget>,
+            editorFactory<Widget>(),
             group,
             size,
             drawing,

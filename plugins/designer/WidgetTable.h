@@ -20,6 +20,7 @@ struct WidgetEntry
     const char* className = nullptr; ///< with its namespaces, as the class itself tells it
     const char* baseClass = nullptr; ///< the class of Qt's that it extends
     Factory create = nullptr;
+    Factory createInEditor = nullptr; ///< as create, for form editors
     const char* group = nullptr;
     QSize size; ///< of a widget that is dropped where no layout is
     Icons::Drawing drawing = nullptr;
