@@ -34,6 +34,7 @@
 #include <KQt/Ui/WidgetColorPickerButton.h>
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -105,6 +106,19 @@ QStringList paintedTexts(QWidget& widget)
     return device.texts();
 }
 
+/// What a screen reader says about an object and all in it.
+QStringList spokenTexts(const QAccessibleInterface* object)
+{
+    QStringList texts;
+    if (!object)
+        return texts;
+    for (const auto part : {QAccessible::Name, QAccessible::Description, QAccessible::Value, QAccessible::Help})
+        texts << object->text(part);
+    for (int i = 0; i < object->childCount(); ++i)
+        texts << spokenTexts(object->child(i));
+    return texts;
+}
+
 /// All that is on the widgets that there are; lists of combo boxes are opened, other popups only painted.
 QStringList readableTexts()
 {
@@ -116,7 +130,7 @@ QStringList readableTexts()
         for (const QAction* action : actions)
             texts << readableProperties(*action);
         if (widget->isWindow() && widget->windowType() != Qt::Desktop)
-            texts << paintedTexts(*widget);
+            texts << paintedTexts(*widget) << spokenTexts(QAccessible::queryAccessibleInterface(widget));
         if (auto* const box = qobject_cast<QComboBox*>(widget)) {
             texts << itemTexts(*box);
             box->showPopup();
