@@ -504,16 +504,14 @@ void tst_Gallery::noTextIsCutOff_data()
 void tst_Gallery::noTextIsCutOff()
 {
     QFETCH(QString, code);
+    m_language.use(code);
     const auto window = windowWith(pickerSlug);
-    window->setLanguage(code);
     for (const PageRegistration& page : registeredPages()) {
         window->showPage(page.slug());
         QCoreApplication::processEvents();
         const PageFrame& frame = *window->currentFrame();
-        const auto fits = [&] {
-            return window->rect().contains(QRect(frame.mapTo(window.get(), QPoint()), frame.size()));
-        };
-        QTRY_VERIFY2(fits(), page.title);
+        // Without scrolling.
+        QTRY_VERIFY2(frame.parentWidget()->rect().contains(frame.geometry()), page.title);
         QTRY_COMPARE(cutOff(frame).join(QStringLiteral(" | ")), QString());
     }
 }

@@ -327,7 +327,7 @@
     <name>Gallery::FileDialogsPage</name>
     <message>
         <source>Each button calls the function of its name and shows what comes back: the result, string by string, and the filter that was written back. On Windows getOpen() shows the dialog of the system, which takes files and folders together.</source>
-        <translation>يستدعي كل زر الدالة التي يحمل اسمها ويعرض ما يعود منها: النتيجة سلسلةً سلسلة، والمرشّح الذي أُعيدت كتابته. على Windows تعرض getOpen() مربع حوار النظام الذي يقبل الملفات والمجلدات معًا.</translation>
+        <translation>يستدعي كل زر الدالة التي يحمل اسمها ويعرض ما يعود منها: النتيجة سلسلةً سلسلة، والمرشّح الذي أُعيدت كتابته. على Windows تعرض getOpen()‎ مربع حوار النظام الذي يقبل الملفات والمجلدات معًا.</translation>
     </message>
     <message>
         <source>This disc is read-only: nothing can be written to it.</source>
@@ -363,15 +363,15 @@
     </message>
     <message>
         <source>getOpen(): files</source>
-        <translation>getOpen(): ملفات</translation>
+        <translation>getOpen()‎: ملفات</translation>
     </message>
     <message>
         <source>getOpen(): folders</source>
-        <translation>getOpen(): مجلدات</translation>
+        <translation>getOpen()‎: مجلدات</translation>
     </message>
     <message>
         <source>getOpen(): several</source>
-        <translation>getOpen(): عدة عناصر</translation>
+        <translation>getOpen()‎: عدة عناصر</translation>
     </message>
     <message>
         <source>An empty list</source>

@@ -327,7 +327,7 @@
     <name>Gallery::FileDialogsPage</name>
     <message>
         <source>Each button calls the function of its name and shows what comes back: the result, string by string, and the filter that was written back. On Windows getOpen() shows the dialog of the system, which takes files and folders together.</source>
-        <translation>כל כפתור קורא לפונקציה ששמה עליו ומציג את מה שחוזר ממנה: התוצאה, מחרוזת אחר מחרוזת, והמסנן שנכתב חזרה. ב־Windows הפונקציה getOpen() מציגה את תיבת הדו־שיח של המערכת, שמקבלת קבצים ותיקיות יחד.</translation>
+        <translation>כל כפתור קורא לפונקציה ששמה עליו ומציג את מה שחוזר ממנה: התוצאה, מחרוזת אחר מחרוזת, והמסנן שנכתב חזרה. ב־Windows הפונקציה getOpen()‎ מציגה את תיבת הדו־שיח של המערכת, שמקבלת קבצים ותיקיות יחד.</translation>
     </message>
     <message>
         <source>This disc is read-only: nothing can be written to it.</source>
@@ -363,15 +363,15 @@
     </message>
     <message>
         <source>getOpen(): files</source>
-        <translation>getOpen(): קבצים</translation>
+        <translation>getOpen()‎: קבצים</translation>
     </message>
     <message>
         <source>getOpen(): folders</source>
-        <translation>getOpen(): תיקיות</translation>
+        <translation>getOpen()‎: תיקיות</translation>
     </message>
     <message>
         <source>getOpen(): several</source>
-        <translation>getOpen(): כמה יחד</translation>
+        <translation>getOpen()‎: כמה יחד</translation>
     </message>
     <message>
         <source>An empty list</source>

@@ -32,7 +32,7 @@ MainWindow::MainWindow(LanguageSwitch& language, QWidget* parent)
     createCentralWidget();
     setTexts();
 
-    constexpr QSize comfortableSize(1100, 760);
+    constexpr QSize comfortableSize(1280, 760); // for the widest page in every language
     resize(comfortableSize);
     m_list->setCurrent(0);
 }

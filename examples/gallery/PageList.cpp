@@ -72,6 +72,11 @@ void PageList::setEntries(const QVector<Entry>& entries)
     setMinimumWidth(m_view->sizeHintForColumn(0) + frame + margins);
 }
 
+QSize PageList::sizeHint() const
+{
+    return {minimumWidth(), QWidget::sizeHint().height()};
+}
+
 int PageList::current() const
 {
     return m_current;

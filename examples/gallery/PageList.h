@@ -39,6 +39,8 @@ public:
     void setCurrent(int position);
     void focusFilter();
 
+    /// No wider than the longest title, so that the page has the room.
+    QSize sizeHint() const override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
