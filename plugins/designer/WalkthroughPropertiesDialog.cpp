@@ -11,12 +11,14 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace Kestrel::Gui::Designer {
 
 WalkthroughPropertiesDialog::WalkthroughPropertiesDialog(const WalkthroughProperties& properties,
-                                                         const WalkthroughNames& names, QWidget* parent)
+                                                         WalkthroughNames names, QWidget* parent)
     : QDialog(parent)
-    , m_names(names)
+    , m_names(std::move(names))
     , m_target(new QLineEdit(properties.target, this))
     , m_hint(new QLineEdit(properties.hint, this))
     , m_alignment(new QComboBox(this))

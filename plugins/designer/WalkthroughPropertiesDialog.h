@@ -26,7 +26,7 @@ class WalkthroughPropertiesDialog : public QDialog
 
 public:
     /// @param names are those of the form, for completion.
-    WalkthroughPropertiesDialog(const WalkthroughProperties& properties, const WalkthroughNames& names,
+    WalkthroughPropertiesDialog(const WalkthroughProperties& properties, WalkthroughNames names,
                                 QWidget* parent = nullptr);
     ~WalkthroughPropertiesDialog() override;
 
