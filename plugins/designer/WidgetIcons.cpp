@@ -122,8 +122,10 @@ void advancedColorPicker(QPainter& painter)
 {
     constexpr QRgb colors[] = {red, orange, yellow, green, blue, violet, teal, dim, ink};
     constexpr int cell = 7;
-    for (int i = 0; i < 9; ++i)
-        fill(painter, QRectF(1 + i % 3 * cell, 1 + i / 3 * cell, cell - 1, cell - 1), colors[i]);
+    for (int i = 0; i < 9; ++i) {
+        const QPoint corner(1 + i % 3 * cell, 1 + i / 3 * cell);
+        fill(painter, QRect(corner, QSize(cell - 1, cell - 1)), colors[i]);
+    }
 }
 
 void namedColorPicker(QPainter& painter)
