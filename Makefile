@@ -18,4 +18,4 @@ windows: ## cross-build for Windows and run its tests under wine
 translations: ## take new texts over into translations/*.ts
 	@tools/install-dependencies build && tools/update-translations
 install: ## install the release build to PREFIX; DESTDIR is respected
-	@tools/install-dependencies build test && tools/build release && cmake --install build/release --prefix "$(PREFIX)"
+	@tools/install-dependencies build test && tools/build release KQtUi KQtUiDesigner kqtui-translations && cmake --install build/release --prefix "$(PREFIX)"

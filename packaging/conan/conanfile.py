@@ -52,7 +52,7 @@ class KQtUiRecipe(ConanFile):
 
     def generate(self):
         toolchain = CMakeToolchain(self)
-        for part in ("TESTS", "EXAMPLES", "BENCHMARKS", "FUZZERS"):
+        for part in ("TESTS", "EXAMPLES", "BENCHMARKS", "FUZZERS", "DESIGNER_PLUGIN"):
             toolchain.cache_variables["KQTUI_BUILD_" + part] = False
         toolchain.generate()
         CMakeDeps(self).generate()

@@ -8,7 +8,8 @@ vcpkg_cmake_configure(
     -DKQTUI_BUILD_TESTS=OFF
     -DKQTUI_BUILD_EXAMPLES=OFF
     -DKQTUI_BUILD_BENCHMARKS=OFF
-    -DKQTUI_BUILD_FUZZERS=OFF)
+    -DKQTUI_BUILD_FUZZERS=OFF
+    -DKQTUI_BUILD_DESIGNER_PLUGIN=OFF)
 vcpkg_cmake_install()
 vcpkg_cmake_config_fixup(PACKAGE_NAME KQtUi CONFIG_PATH lib/cmake/KQtUi)
 vcpkg_fixup_pkgconfig()
