@@ -7,7 +7,7 @@ namespace TestSupport {
 
 namespace {
 
-constexpr DWORD patience = 30000; // milliseconds
+constexpr DWORD patience = 20000; // milliseconds
 constexpr DWORD period = 10;
 
 constexpr int fileNameId = 1152;
@@ -50,12 +50,24 @@ struct DialogSearch
     HWND found;
 };
 
+bool isOwnDialog(HWND window)
+{
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process == GetCurrentProcessId() && IsWindowVisible(window) && isOfClass(window, L"#32770");
+}
+
+BOOL CALLBACK cancelDialog(HWND window, LPARAM)
+{
+    if (isOwnDialog(window))
+        PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+    return TRUE;
+}
+
 BOOL CALLBACK compareDialog(HWND window, LPARAM parameter)
 {
     auto* search = reinterpret_cast<DialogSearch*>(parameter);
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    if (process != GetCurrentProcessId() || !IsWindowVisible(window) || !isOfClass(window, L"#32770"))
+    if (!isOwnDialog(window))
         return TRUE;
     wchar_t title[512] = L"";
     GetWindowTextW(window, title, 512);
@@ -81,6 +93,7 @@ DialogOperator::~DialogOperator()
 
 void DialogOperator::finish()
 {
+    m_left = true;
     if (m_thread.joinable())
         m_thread.join();
 }
@@ -93,20 +106,29 @@ void DialogOperator::run()
         return search.found != nullptr;
     });
     m_dialog = search.found;
-    if (!m_dialog)
-        return;
-    m_act(*this);
-    m_endedByItself = waitFor([this] { return !IsWindow(m_dialog); });
+    if (m_dialog) {
+        m_act(*this);
+        m_endedByItself = waitFor([this] { return !IsWindow(m_dialog); });
+    }
     if (!m_endedByItself)
-        PostMessageW(m_dialog, WM_COMMAND, IDCANCEL, 0);
+        cancelWhateverIsOpen();
+}
+
+// Also the messages that a dialog shows, and a dialog that has another title.
+void DialogOperator::cancelWhateverIsOpen() const
+{
+    while (!m_left) {
+        EnumWindows(&cancelDialog, 0);
+        Sleep(period);
+    }
 }
 
 bool DialogOperator::waitFor(const std::function<bool()>& condition) const
 {
     const DWORD start = GetTickCount();
     while (!condition()) {
-        if (GetTickCount() - start > patience)
-            return false;
+        if (m_left || GetTickCount() - start > patience)
+            return condition();
         Sleep(period);
     }
     return true;

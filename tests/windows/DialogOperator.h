@@ -5,6 +5,7 @@
 
 #include <windows.h>
 
+#include <atomic>
 #include <functional>
 #include <thread>
 
@@ -47,12 +48,14 @@ public:
 
 private:
     void run();
+    void cancelWhateverIsOpen() const;
     HWND control(const wchar_t* className, int id) const;
 
     QString m_title;
     std::function<void(DialogOperator&)> m_act;
     HWND m_dialog = nullptr;
     bool m_endedByItself = false;
+    std::atomic<bool> m_left = false; ///< whoever opened the dialog goes on
     std::thread m_thread;
 };
 
