@@ -510,8 +510,8 @@ void tst_Gallery::noTextIsCutOff()
         window->showPage(page.slug());
         QCoreApplication::processEvents();
         const PageFrame& frame = *window->currentFrame();
-        // Without scrolling.
-        QTRY_VERIFY2(frame.parentWidget()->rect().contains(frame.geometry()), page.title);
+        // Without scrolling sideways.
+        QTRY_VERIFY2(frame.parentWidget()->width() >= frame.minimumSizeHint().width(), page.title);
         QTRY_COMPARE(cutOff(frame).join(QStringLiteral(" | ")), QString());
     }
 }
