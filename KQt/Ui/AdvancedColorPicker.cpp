@@ -1,5 +1,7 @@
 #include <KQt/Ui/AdvancedColorPicker.h>
 
+#include <KQt/Ui/Accessibility/Announcements.h>
+#include <KQt/Ui/Accessibility/InstallAccessibility.h>
 #include <KQt/Ui/AdvancedColorPickerPopup.h>
 
 #include <QPainter>
@@ -13,6 +15,8 @@ AdvancedColorPicker::AdvancedColorPicker(QWidget* parent)
     : QToolButton(parent)
     , m_popup(std::make_unique<AdvancedColorPickerPopup>())
 {
+    Detail::installAccessibility();
+    m_popup->m_picker = this;
     connect(this, &QAbstractButton::clicked, this, QOverload<>::of(&AdvancedColorPicker::showPopup));
     connect(m_popup.get(), &AdvancedColorPickerPopup::changedColor, this, &AdvancedColorPicker::colorChanged);
     connect(m_popup.get(), &AdvancedColorPickerPopup::hidedWithColor, this, &AdvancedColorPicker::finishSelection);
@@ -21,6 +25,7 @@ AdvancedColorPicker::AdvancedColorPicker(QWidget* parent)
 AdvancedColorPicker::~AdvancedColorPicker()
 {
     m_popup->disconnect(this);
+    m_popup->m_picker = nullptr;
     if (m_popupCalls > 0) {
         // Deleted from a slot of one of our signals: the popup's edit, slider or hiding is still under way.
         m_popup->hide();
@@ -39,6 +44,7 @@ void AdvancedColorPicker::setColor(const QColor& c)
     m_popup->setColor(c);
     setStyleSheet(QStringLiteral("QToolButton:enabled { background-color: %1 }").arg(c.name()));
     update();
+    Detail::announceValue(this);
 }
 
 bool AdvancedColorPicker::opacityAdjustmentAvailable() const

@@ -11,6 +11,10 @@ namespace Kestrel::Gui {
 
 class AdvancedColorPickerPopup;
 
+namespace Detail {
+class AdvancedColorPickerPopupInterface;
+} // namespace Detail
+
 /// A button that shows a colour as its background and opens a popup to choose another one.
 ///
 /// The colour is invalid until it is set. The popup, an AdvancedColorPickerPopup, is a window of its own that the
@@ -58,6 +62,8 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    friend class Detail::AdvancedColorPickerPopupInterface;
+
     void finishSelection(const QColor& c);
     bool startSelection();
     void openPopupAt(const QPoint& topLeft);

@@ -1,5 +1,6 @@
 #include <KQt/Ui/AdvancedColorPickerPopup.h>
 
+#include <KQt/Ui/Accessibility/InstallAccessibility.h>
 #include <KQt/Ui/AdvancedColorPalette.h>
 #include <KQt/Ui/AdvancedColorPickerPopupForm.h>
 #include <KQt/Ui/FixedSizeItem.h>
@@ -60,6 +61,7 @@ AdvancedColorPickerPopup::AdvancedColorPickerPopup(QWidget* parent)
     , m_form(std::make_unique<AdvancedColorPickerPopupForm>(this))
     , m_colorButtons(new QButtonGroup(this))
 {
+    Detail::installAccessibility();
     setFrameShape(QFrame::StyledPanel);
     setFrameShadow(QFrame::Plain);
     m_form->colorButtonsLayout->setVerticalSpacing(0);

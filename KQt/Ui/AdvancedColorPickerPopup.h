@@ -16,7 +16,12 @@ QT_END_NAMESPACE
 namespace Kestrel::Gui {
 
 class PickerButton;
+class AdvancedColorPicker;
 struct AdvancedColorPickerPopupForm;
+
+namespace Detail {
+class AdvancedColorPickerPopupInterface;
+} // namespace Detail
 
 /// The popup of AdvancedColorPicker: 120 fixed colours, 12 user colour slots, hexadecimal entry and opacity.
 ///
@@ -59,6 +64,9 @@ private Q_SLOTS:
     void updateUserGeneratedColors();
 
 private:
+    friend class AdvancedColorPicker;
+    friend class Detail::AdvancedColorPickerPopupInterface;
+
     void createPalette();
     void createUserSlots();
     void connectForm();
@@ -75,6 +83,7 @@ private:
     QButtonGroup* m_colorButtons = nullptr;
     QList<PickerButton*> m_userColorButtons;
     QColor m_color;
+    QWidget* m_picker = nullptr; // the picker that owns the popup, for assistive technology
 
     // One row of user colours for the whole process.
     static QVector<QColor> m_userGeneratedColors;

@@ -1,5 +1,7 @@
 #include <KQt/Ui/ClickableLabel.h>
 
+#include <KQt/Ui/Accessibility/InstallAccessibility.h>
+
 #include <QPointer>
 
 namespace Kestrel::Gui {
@@ -9,6 +11,7 @@ const std::string ClickableLabel::CLICKABLE = "clickable";
 ClickableLabel::ClickableLabel(QWidget* parent)
     : QLabel(parent)
 {
+    Detail::installAccessibility();
 }
 
 ClickableLabel::~ClickableLabel() = default;

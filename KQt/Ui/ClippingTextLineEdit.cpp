@@ -1,5 +1,6 @@
 #include <KQt/Ui/ClippingTextLineEdit.h>
 
+#include <KQt/Ui/Accessibility/InstallAccessibility.h>
 #include <KQt/Ui/DirectionalText.h>
 
 #include <QPointer>
@@ -9,6 +10,7 @@ namespace Kestrel::Gui {
 ClippingTextLineEdit::ClippingTextLineEdit(QWidget* parent)
     : QLineEdit(parent)
 {
+    Detail::installAccessibility();
 }
 
 ClippingTextLineEdit::~ClippingTextLineEdit() = default;

@@ -1,5 +1,7 @@
 #include <KQt/Ui/ExtendedLabel.h>
 
+#include <KQt/Ui/Accessibility/Announcements.h>
+#include <KQt/Ui/Accessibility/InstallAccessibility.h>
 #include <KQt/Ui/DirectionalText.h>
 
 #include <QPointer>
@@ -14,6 +16,7 @@ ExtendedLabel::ExtendedLabel(QWidget* parent)
     : QLabel(parent)
     , m_measuredFont(fontMetrics())
 {
+    Detail::installAccessibility();
 }
 
 ExtendedLabel::~ExtendedLabel() = default;
@@ -28,6 +31,7 @@ void ExtendedLabel::SetOriginalText(const QString& text)
     m_originalText = Detail::withDirectionalMarks(text);
     m_wholeWidth = notMeasured;
     updateViewText();
+    Detail::announceName(this);
 }
 
 bool ExtendedLabel::GetClipText() const

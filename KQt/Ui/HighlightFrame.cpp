@@ -1,5 +1,7 @@
 #include <KQt/Ui/HighlightFrame.h>
 
+#include <KQt/Ui/Accessibility/InstallAccessibility.h>
+
 #include <QEvent>
 #include <QTimer>
 
@@ -23,6 +25,7 @@ HighlightFrame::HighlightFrame(QWidget* widget)
     : QFrame(nullptr)
     , m_trackedWidgets{widget}
 {
+    Detail::installAccessibility();
     if (widget)
         initTopLevel(widget->parentWidget());
 }
@@ -31,6 +34,7 @@ HighlightFrame::HighlightFrame(QSet<QWidget*> widgets)
     : QFrame(nullptr)
     , m_trackedWidgets(std::move(widgets))
 {
+    Detail::installAccessibility();
     QWidget* host = nullptr;
     for (QWidget* widget : qAsConst(m_trackedWidgets)) {
         if (widget)

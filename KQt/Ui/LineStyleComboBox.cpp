@@ -1,5 +1,6 @@
 #include <KQt/Ui/LineStyleComboBox.h>
 
+#include <KQt/Ui/Accessibility/InstallAccessibility.h>
 #include <KQt/Ui/LineSample.h>
 #include <KQt/Ui/LineStyleDelegate.h>
 
@@ -11,9 +12,11 @@ namespace Kestrel::Gui {
 LineStyleComboBox::LineStyleComboBox(QWidget* parent)
     : QComboBox(parent)
 {
+    Detail::installAccessibility();
     auto* view = new QListView;
     view->setModel(model());
     setView(view);
+    Detail::forgetAccessibleInterface(view);
     setItemDelegate(new LineStyleDelegate(this));
 }
 

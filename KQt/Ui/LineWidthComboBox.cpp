@@ -1,5 +1,6 @@
 #include <KQt/Ui/LineWidthComboBox.h>
 
+#include <KQt/Ui/Accessibility/InstallAccessibility.h>
 #include <KQt/Ui/LineSample.h>
 #include <KQt/Ui/LineWidthDelegate.h>
 
@@ -11,9 +12,11 @@ namespace Kestrel::Gui {
 LineWidthComboBox::LineWidthComboBox(QWidget* parent)
     : QComboBox(parent)
 {
+    Detail::installAccessibility();
     auto* view = new QListView;
     view->setModel(model());
     setView(view);
+    Detail::forgetAccessibleInterface(view);
     setItemDelegate(new LineWidthDelegate(this));
 }
 

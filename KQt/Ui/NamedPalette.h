@@ -7,7 +7,7 @@
 
 namespace Kestrel::Gui::Detail {
 
-/// A colour of the named palette. The name belongs to the data; no widget shows it.
+/// A colour of the named palette. No widget shows the name; screen readers read it out, translated.
 struct NamedColor
 {
     const char* name;

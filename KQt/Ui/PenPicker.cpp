@@ -1,5 +1,7 @@
 #include <KQt/Ui/PenPicker.h>
 
+#include <KQt/Ui/Accessibility/Announcements.h>
+#include <KQt/Ui/Accessibility/InstallAccessibility.h>
 #include <KQt/Ui/AdvancedColorPicker.h>
 #include <KQt/Ui/LineWidthComboBox.h>
 
@@ -15,6 +17,7 @@ PenPicker::PenPicker(QWidget* parent)
     , m_width(new LineWidthComboBox(this))
     , m_color(new AdvancedColorPicker(this))
 {
+    Detail::installAccessibility();
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
     setAttribute(Qt::WA_MouseTracking, true);
@@ -44,6 +47,7 @@ void PenPicker::setPen(QPen pen) // NOLINT(performance-unnecessary-value-param)
 {
     m_width->setCurrentIndex(pen.style() == Qt::NoPen ? 0 : std::min(pen.width(), m_width->count() - 1));
     m_color->setColor(pen.color());
+    Detail::announceValue(this);
 }
 
 void PenPicker::mouseMoveEvent(QMouseEvent* event)

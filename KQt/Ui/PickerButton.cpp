@@ -1,5 +1,8 @@
 #include <KQt/Ui/PickerButton.h>
 
+#include <KQt/Ui/Accessibility/Announcements.h>
+#include <KQt/Ui/Accessibility/InstallAccessibility.h>
+
 #include <QBrush>
 #include <QPainter>
 
@@ -18,6 +21,7 @@ PickerButton::PickerButton(const QColor& color, QWidget* parent)
     : QToolButton(parent)
     , m_color(color)
 {
+    Detail::installAccessibility();
     setCheckable(true);
 }
 
@@ -32,6 +36,7 @@ void PickerButton::setColor(const QColor& color)
 {
     m_color = color;
     update();
+    Detail::announceValue(this);
     Q_EMIT colorChanged(m_color);
 }
 

@@ -1,5 +1,7 @@
 #include <KQt/Ui/PreviewImageLabel.h>
 
+#include <KQt/Ui/Accessibility/InstallAccessibility.h>
+
 #include <QEvent>
 #include <QToolButton>
 #include <QVariant>
@@ -29,6 +31,7 @@ PreviewImageLabel::PreviewImageLabel(QWidget* parent)
     , m_play(new QToolButton(this))
     , m_duration(new QLabel(this))
 {
+    Detail::installAccessibility();
     Q_UNUSED(parent)
     tag(m_star, QStringLiteral("starButton"), QStringLiteral("star"));
     m_star->setToolTip(starToolTip());

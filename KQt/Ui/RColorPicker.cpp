@@ -1,5 +1,7 @@
 #include <KQt/Ui/RColorPicker.h>
 
+#include <KQt/Ui/Accessibility/Announcements.h>
+#include <KQt/Ui/Accessibility/InstallAccessibility.h>
 #include <KQt/Ui/RColorPickerPopup.h>
 
 #include <QStyle>
@@ -9,14 +11,13 @@
 
 #include <utility>
 
-#include <utility>
-
 namespace Kestrel::Gui {
 
 RColorPicker::RColorPicker(QWidget* parent)
     : QPushButton(parent)
     , m_popup(new RColorPickerPopup(this))
 {
+    Detail::installAccessibility();
     m_popup->setObjectName(QStringLiteral("popup"));
     m_popup->setFrameShape(QFrame::StyledPanel);
     m_popup->setFrameShadow(QFrame::Plain);
@@ -37,6 +38,7 @@ void RColorPicker::setColor(QColor color)
 {
     m_color = std::move(color);
     m_popup->selectHoverColor(m_color);
+    Detail::announceValue(this);
     if (!m_colorized)
         return;
     setStyleSheet(QStringLiteral("#%1{background-color: %2;}").arg(objectName(), m_color.name()));

@@ -1,6 +1,9 @@
 #include <KQt/Ui/RColorPickerPopup.h>
 
+#include <KQt/Ui/Accessibility/InstallAccessibility.h>
+#include <KQt/Ui/Accessibility/RColorPickerPopupKeyboard.h>
 #include <KQt/Ui/NamedPalette.h>
+#include <KQt/Ui/RColorPickerPopupLayout.h>
 
 #include <KQtUtil/WidgetStyle.h>
 
@@ -19,34 +22,9 @@ namespace Kestrel::Gui {
 
 namespace {
 
-// The layout in pixels.
-constexpr int cellSize = 12;
-constexpr int cellDistance = 16;
-constexpr int cellsLeft = 8;
-constexpr int cellsTop = 34;
+// In pixels.
 constexpr int hoverMargin = 2;
-constexpr int buttonMargin = 4;
-constexpr int buttonHeight = 20;
-constexpr int defaultButtonTop = 5;
-constexpr int moreButtonBelowLastRow = 55;
 constexpr QSize initialSize(140, 145);
-
-QRectF cellRect(int index)
-{
-    const int column = index % Detail::namedPaletteColumns;
-    const int row = index / Detail::namedPaletteColumns;
-    return QRectF(column * cellDistance + cellsLeft, row * cellDistance + cellsTop, cellSize, cellSize);
-}
-
-QRectF buttonRect(int top, int popupWidth)
-{
-    return QRectF(buttonMargin, top, popupWidth - 2 * buttonMargin, buttonHeight);
-}
-
-int moreButtonTop()
-{
-    return (Detail::namedPaletteRows - 1) * cellDistance + moreButtonBelowLastRow;
-}
 
 void hideSpinBoxButtons(const QDialog& dialog)
 {
@@ -70,7 +48,9 @@ void styleDialogButtons(const QDialog& dialog)
 RColorPickerPopup::RColorPickerPopup(QWidget* parent)
     : QFrame(parent, Qt::Popup)
     , m_borderDialogColor(palette().color(QPalette::Text))
+    , m_keyboard(std::make_unique<Detail::RColorPickerPopupKeyboard>(this))
 {
+    Detail::installAccessibility();
     setFrameShape(QFrame::StyledPanel);
     setFrameShadow(QFrame::Plain);
     resize(initialSize);
@@ -260,11 +240,11 @@ void RColorPickerPopup::paintEvent(QPaintEvent* event)
     painter.setPen(previousPen);
 
     const QPointF hoverPoint = mapFromGlobal(QCursor::pos());
-    m_moreRect = buttonRect(moreButtonTop(), width());
+    m_moreRect = Detail::popupMoreRect(width());
     //: Button at the bottom of the colour palette: opens a dialog with all colours. At most about 15 letters: the
     //: button does not grow.
     paintButton(&painter, m_moreRect, tr("More..."), m_moreRect.contains(hoverPoint));
-    m_defaultRect = buttonRect(defaultButtonTop, width());
+    m_defaultRect = Detail::popupDefaultRect(width());
     //: Button at the top of the colour palette: chooses the default colour, not a default action. At most about 15
     //: letters: the button does not grow.
     paintButton(&painter, m_defaultRect, tr("Default"), m_defaultRect.contains(hoverPoint));
@@ -282,7 +262,7 @@ void RColorPickerPopup::paintCells(QPainter& painter)
     m_cells.clear();
     painter.setPen(m_borderSmallButtonColor);
     for (int i = 0; i < static_cast<int>(Detail::namedPalette.size()); ++i) {
-        const Cell cell{Detail::namedPalette[static_cast<std::size_t>(i)].color(), cellRect(i)};
+        const Cell cell{Detail::namedPalette[static_cast<std::size_t>(i)].color(), Detail::popupCellRect(i)};
         painter.setBrush(cell.color);
         painter.drawRect(cell.rect);
         m_cells.append(cell);

@@ -7,13 +7,22 @@
 #include <QRectF>
 #include <QVector>
 
+#include <memory>
+
 namespace Kestrel::Gui {
+
+namespace Detail {
+class RColorPickerPopupKeyboard;
+} // namespace Detail
 
 /// The popup of RColorPicker: a "Default" button, 40 fixed colours in 8 columns and 5 rows, and a "More..." button that
 /// opens a QColorDialog. It paints itself and has no child widgets.
 ///
 /// Cells are 12 x 12 pixels at a distance of 16 and do not move with the popup's size; the two buttons follow its
 /// width. The cell and the button under the cursor are highlighted when the popup is painted, and only then.
+///
+/// By keyboard, arrow keys, Home and End move a frame from item to item, Return and Space choose the framed one as a
+/// press of the mouse does, and Escape closes. The frame shows after the first of these keys.
 class KQTUI_EXPORT RColorPickerPopup : public QFrame
 {
     Q_OBJECT
@@ -77,6 +86,8 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    friend class Detail::RColorPickerPopupKeyboard;
+
     struct Cell
     {
         QColor color;
@@ -101,6 +112,7 @@ private:
     QColor m_borderDialogColor;
     QColor m_borderButtonColor = m_buttonNormalTextColor;
     QColor m_borderSmallButtonColor = Qt::darkGray;
+    std::unique_ptr<Detail::RColorPickerPopupKeyboard> m_keyboard;
 };
 
 } // namespace Kestrel::Gui

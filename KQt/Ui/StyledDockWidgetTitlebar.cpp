@@ -1,5 +1,7 @@
 #include <KQt/Ui/StyledDockWidgetTitlebar.h>
 
+#include <KQt/Ui/Accessibility/InstallAccessibility.h>
+
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFrame>
@@ -116,6 +118,7 @@ struct StyledDockWidgetTitlebar::Form
 StyledDockWidgetTitlebar::StyledDockWidgetTitlebar(QWidget* parent)
     : QWidget(parent)
 {
+    Detail::installAccessibility();
     if (objectName().isEmpty())
         setObjectName(QStringLiteral("StyledDockWidgetTitlebar"));
     resize(initialWidth, barHeight);

@@ -1,5 +1,7 @@
 #include <KQt/Ui/WalkthroughHint.h>
 
+#include <KQt/Ui/Accessibility/Announcements.h>
+#include <KQt/Ui/Accessibility/InstallAccessibility.h>
 #include <KQt/Ui/HighlightFrame.h>
 
 #include <QEvent>
@@ -170,6 +172,7 @@ QRect clipped(const QRectF& place, const QRect& bounds, const QRectF& avoid)
 WalkthroughHint::WalkthroughHint()
     : QWidget(nullptr)
 {
+    Detail::installAccessibility();
     // Closing a hint in a hidden window must not be taken for closing the application's last window.
     setAttribute(Qt::WA_QuitOnClose, false);
 }
@@ -339,7 +342,16 @@ void WalkthroughHint::frameVisibilityChanged(bool /*visible*/)
     if (!parentWidget() || !m_frame || !m_running)
         return;
     // What counts is how the frame is now, not how it was when it reported.
+    followFrameVisibility();
+}
+
+void WalkthroughHint::followFrameVisibility()
+{
+    const bool wasVisible = isVisible();
+    const QPointer<WalkthroughHint> self(this);
     setVisible(m_frame->isVisible());
+    if (self && !wasVisible)
+        Detail::announceAlert(this);
 }
 
 void WalkthroughHint::frameGeometryChanged(QRect /*geometry*/)
@@ -396,7 +408,7 @@ void WalkthroughHint::applyPlace(const QRect& place, bool isBeside)
     if (!self || !m_frame)
         return;
     m_running = true;
-    setVisible(m_frame->isVisible());
+    followFrameVisibility();
 }
 
 bool WalkthroughHint::isAvoiding() const

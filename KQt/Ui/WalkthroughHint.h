@@ -127,6 +127,7 @@ private:
     void announceUsersChoice();
     QVariant pageProperty(const char* name);
     void place();
+    void followFrameVisibility();
     void applyPlace(const QRect& place, bool isBeside);
     QRectF avoidRect() const;
 

@@ -1,5 +1,7 @@
 #include <KQt/Ui/WidgetColorPickerButton.h>
 
+#include <KQt/Ui/Accessibility/Announcements.h>
+#include <KQt/Ui/Accessibility/InstallAccessibility.h>
 #include <KQt/Ui/HighlightFrame.h>
 #include <KQt/Ui/WidgetColorPicker.h>
 
@@ -14,6 +16,7 @@ WidgetColorPickerButton::WidgetColorPickerButton(QWidget* parent)
     : QToolButton(parent)
     , m_picker(new WidgetColorPicker(this))
 {
+    Detail::installAccessibility();
     connect(this, &QToolButton::clicked, this, &WidgetColorPickerButton::startPicking);
     setEnabled(false);
 }
@@ -34,6 +37,7 @@ void WidgetColorPickerButton::setColor(const QColor& color)
 {
     const QPointer<WidgetColorPickerButton> self(this);
     m_color = color;
+    Detail::announceValue(this);
     Q_EMIT colorChanged(m_color);
     if (!self || !m_changeSelfColor)
         return;
