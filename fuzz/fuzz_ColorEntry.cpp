@@ -1,34 +1,20 @@
 // Colours from outside: what is typed into the popup's hexadecimal field, and what is dropped on a swatch.
+#include "FuzzApplication.h"
+
 #include <KQt/Ui/AdvancedColorPickerPopup.h>
 #include <KQt/Ui/PickerButton.h>
 #include <KQt/Ui/PickerButtonDropFilter.h>
 
-#include <QApplication>
 #include <QDropEvent>
 #include <QLineEdit>
 #include <QMimeData>
 
 #include <cstdint>
-#include <cstdlib>
 
 using namespace Kestrel::Gui;
+using Fuzz::require;
 
 namespace {
-
-void require(bool condition)
-{
-    if (!condition)
-        std::abort();
-}
-
-QApplication& application()
-{
-    static int argc = 1;
-    static char name[] = "fuzz_ColorEntry";
-    static char* argv[] = {name, nullptr};
-    static QApplication instance(argc, argv);
-    return instance;
-}
 
 // Through insert(), as by typing or pasting: the validator has its say.
 void enterText(const QByteArray& bytes)
@@ -73,7 +59,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    application();
+    Fuzz::application();
     if (size == 0)
         return 0;
 

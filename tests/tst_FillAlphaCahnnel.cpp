@@ -1,5 +1,6 @@
 #include <KQt/Ui/SelectionFrameWidget/SelectionFrameWidget.h>
 
+#include "support/AlphaReference.h"
 #include "support/WarningCatcher.h"
 
 #include <QImage>
@@ -11,6 +12,8 @@
 #include <random>
 #include <stdexcept>
 
+using AlphaReference::pixelByPixel;
+using AlphaReference::samePixels;
 using Kestrel::Gui::FillAlphaCahnnel;
 
 Q_DECLARE_METATYPE(QImage::Format)
@@ -18,30 +21,6 @@ Q_DECLARE_METATYPE(QImage::Format)
 namespace {
 
 const QSize Size(23, 17);
-
-QImage alphaOf(const QImage& image)
-{
-    QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED
-    return image.alphaChannel();
-    QT_WARNING_POP
-}
-
-/// Pixel by pixel, as it is described; the messages of setPixel() on paletted pictures are swallowed.
-QImage pixelByPixel(const QImage& source, const QRect& rect, int alpha)
-{
-    const TestSupport::WarningCatcher swallowed;
-    QImage image = source.copy();
-    const QImage alphas = alphaOf(image);
-    for (int y = std::max(rect.top(), 0); y <= std::min(rect.bottom(), image.height() - 1); ++y) {
-        for (int x = std::max(rect.left(), 0); x <= std::min(rect.right(), image.width() - 1); ++x) {
-            const int a = qRed(alphas.pixel(x, y));
-            const QRgb color = image.pixel(x, y);
-            image.setPixel(x, y, qRgba(qRed(color), qGreen(color), qBlue(color), int(a * alpha / 255.0)));
-        }
-    }
-    return image;
-}
 
 /// A picture of random bits, with a colour table where the format takes one.
 QImage randomImage(QImage::Format format, unsigned seed, const QSize& size = Size)
@@ -63,25 +42,6 @@ QImage randomImage(QImage::Format format, unsigned seed, const QSize& size = Siz
         image.setColorTable(table);
     }
     return image;
-}
-
-/// The pixels alone; the bits that pad a line may be anything.
-bool samePixels(const QImage& a, const QImage& b)
-{
-    if (a.size() != b.size() || a.format() != b.format() || a.colorTable() != b.colorTable())
-        return false;
-    const int whole = a.width() * a.depth() / 8;
-    for (int y = 0; y < a.height(); ++y) {
-        if (std::memcmp(a.constScanLine(y), b.constScanLine(y), static_cast<size_t>(whole)) != 0)
-            return false;
-        if (a.depth() == 1) {
-            for (int x = 0; x < a.width(); ++x) {
-                if (a.pixelIndex(x, y) != b.pixelIndex(x, y))
-                    return false;
-            }
-        }
-    }
-    return true;
 }
 
 } // namespace
