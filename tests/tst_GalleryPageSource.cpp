@@ -135,7 +135,7 @@ void tst_GalleryPageSource::codeFollowsThePalette()
     const auto keyword = [&view] {
         return view.document()->firstBlock().layout()->formats().value(0).format.foreground().color();
     };
-    const auto use = [&view](QColor base, QColor text) {
+    const auto use = [&view](const QColor& base, const QColor& text) {
         QPalette palette;
         palette.setColor(QPalette::Base, base);
         palette.setColor(QPalette::Text, text);

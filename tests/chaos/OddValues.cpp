@@ -26,7 +26,7 @@ QString text(Chance& chance)
 {
     static const std::vector<QString> odd = {
         QString(),
-        QStringLiteral(""),
+        QLatin1String(""),
         QStringLiteral(" "),
         QStringLiteral("%1 %2 %99"),
         QStringLiteral("#ff00ff"),
