@@ -139,14 +139,14 @@ void tst_AccessibilityTiles::highlightFrameIsIgnored()
     auto* const frame = new HighlightFrame(target);
     frame->setAccessibleName(QStringLiteral("frame"));
     QTRY_VERIFY(frame->isVisible());
-    QAccessibleInterface* const interface = accessible(frame);
-    QCOMPARE(interface->role(), QAccessible::NoRole);
-    QVERIFY(interface->state().invisible);
-    QVERIFY(!interface->state().focusable);
-    QCOMPARE(interface->childCount(), 0);
-    QVERIFY(interface->actionInterface()->actionNames().isEmpty());
+    QAccessibleInterface* const shown = accessible(frame);
+    QCOMPARE(shown->role(), QAccessible::NoRole);
+    QVERIFY(shown->state().invisible);
+    QVERIFY(!shown->state().focusable);
+    QCOMPARE(shown->childCount(), 0);
+    QVERIFY(shown->actionInterface()->actionNames().isEmpty());
     for (const auto kind : {QAccessible::Name, QAccessible::Description, QAccessible::Value, QAccessible::Help})
-        QCOMPARE(interface->text(kind), QString());
+        QCOMPARE(shown->text(kind), QString());
 }
 
 void tst_AccessibilityTiles::hintIsAMessage()

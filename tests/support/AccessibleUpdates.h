@@ -77,14 +77,14 @@ inline QString descriptionOf(QObject* object)
     return accessible(object)->text(QAccessible::Description);
 }
 
-inline void act(QAccessibleInterface* interface, const QString& action)
+inline void act(QAccessibleInterface* target, const QString& action)
 {
-    interface->actionInterface()->doAction(action);
+    target->actionInterface()->doAction(action);
 }
 
-inline void press(QAccessibleInterface* interface)
+inline void press(QAccessibleInterface* target)
 {
-    act(interface, QAccessibleActionInterface::pressAction());
+    act(target, QAccessibleActionInterface::pressAction());
 }
 
 } // namespace TestSupport

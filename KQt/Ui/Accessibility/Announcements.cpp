@@ -19,10 +19,10 @@ void sendValueChange(QWidget* widget)
 {
     if (!widget->isVisible())
         return;
-    const QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(widget);
-    if (!interface)
+    const QAccessibleInterface* const shown = QAccessible::queryAccessibleInterface(widget);
+    if (!shown)
         return;
-    QAccessibleValueChangeEvent event(widget, interface->text(QAccessible::Value));
+    QAccessibleValueChangeEvent event(widget, shown->text(QAccessible::Value));
     QAccessible::updateAccessibility(&event);
     // The value is also the name, or the description where the application gave a name.
     send(widget, QAccessible::NameChanged);

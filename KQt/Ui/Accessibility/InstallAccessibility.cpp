@@ -136,8 +136,8 @@ void forgetAccessibleInterface(QObject* object)
 {
     if (!QAccessible::isActive())
         return;
-    if (QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(object))
-        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(interface));
+    if (QAccessibleInterface* const shown = QAccessible::queryAccessibleInterface(object))
+        QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(shown));
 }
 
 } // namespace Kestrel::Gui::Detail
