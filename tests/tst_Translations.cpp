@@ -1,4 +1,5 @@
 #include "support/FrameGestures.h"
+#include "support/NamedPaletteListing.h"
 #include "support/PaintedTexts.h"
 #include "support/PseudoLanguage.h"
 #include "support/RecordingFrameHandler.h"
@@ -167,12 +168,13 @@ std::unique_ptr<Specimen> widget()
     return std::make_unique<WidgetSpecimen>(std::make_unique<Widget>());
 }
 
-template <typename Box>
-std::unique_ptr<Specimen> boxWithWidths()
+/// A box whose items stand for the numbers from 0 to @p last: widths in pixels, or styles of pens.
+template <typename Box, int last>
+std::unique_ptr<Specimen> boxWithItems()
 {
     auto box = std::make_unique<Box>();
-    for (const int width : {0, 1, 2})
-        box->addItem(QString(), width);
+    for (int item = 0; item <= last; ++item)
+        box->addItem(QString(), item);
     return std::make_unique<WidgetSpecimen>(std::move(box));
 }
 
@@ -235,12 +237,15 @@ private:
 
 using Factory = std::unique_ptr<Specimen> (*)();
 
+/// Texts with the contexts that they are translated in.
+using OwnTexts = QVector<QPair<const char*, const char*>>;
+
 struct Component
 {
     const char* name;
     Factory create;
     /// Each text of its own with the context that it is translated in.
-    QVector<QPair<const char*, const char*>> texts;
+    OwnTexts texts;
     Follows follows = Follows::AtOnce;
 };
 
@@ -249,22 +254,32 @@ const char* const TitleBarContext = "StyledDockWidgetTitlebar";
 const char* const FontContext = "Kestrel::Gui::FontStylePicker";
 const char* const AlignContext = "Kestrel::Gui::TextAlignPicker";
 const char* const PaletteContext = "Kestrel::Gui::RColorPickerPopup";
+const char* const StyleBoxContext = "Kestrel::Gui::LineStyleComboBox";
 const char* const WidthBoxContext = "Kestrel::Gui::LineWidthComboBox";
 const char* const WidthListContext = "Kestrel::Gui::LineWidthDelegate";
 const char* const PreviewContext = "Kestrel::Gui::PreviewImageLabel";
 const char* const CaptionContext = "QObject";
 
+OwnTexts paletteTexts()
+{
+    OwnTexts texts = {{PaletteContext, "More..."}, {PaletteContext, "Default"}, {PaletteContext, "Colors"}};
+    for (const TestSupport::ListedColor& color : TestSupport::listedColors)
+        texts.append(qMakePair(PaletteContext, color.name));
+    return texts;
+}
+
 /// Every exported component that users see. One that is added to the library is added here.
 const QVector<Component>& components()
 {
-    static const QVector<QPair<const char*, const char*>> advancedPopup = {{PopupContext, "%"},
-                                                                           {PopupContext, "OPACITY"}};
-    static const QVector<QPair<const char*, const char*>> namedPalette = {{PaletteContext, "More..."},
-                                                                          {PaletteContext, "Default"}};
-    static const QVector<QPair<const char*, const char*>> noWidth = {{WidthBoxContext, "none"},
-                                                                     {WidthListContext, "none"}};
-    static const QVector<QPair<const char*, const char*>> caption = {
-        {CaptionContext, "Left: %1# Top: %2# Width: %3# Height: %4#"}};
+    static const OwnTexts advancedPopup = {{PopupContext, "%"}, {PopupContext, "OPACITY"}};
+    static const OwnTexts namedPalette = paletteTexts();
+    static const OwnTexts lineWidths = {
+        {WidthBoxContext, "none"}, {WidthBoxContext, "%1 px"}, {WidthListContext, "none"}};
+    static const OwnTexts lineStyles = {{StyleBoxContext, "none"},     {StyleBoxContext, "solid"},
+                                        {StyleBoxContext, "dash"},     {StyleBoxContext, "dot"},
+                                        {StyleBoxContext, "dash dot"}, {StyleBoxContext, "dash dot dot"},
+                                        {StyleBoxContext, "custom"}};
+    static const OwnTexts caption = {{CaptionContext, "Left: %1# Top: %2# Width: %3# Height: %4#"}};
     static const QVector<Component> all = {
         {"AdvancedColorPicker", widget<AdvancedColorPicker>, advancedPopup},
         {"AdvancedColorPickerPopup", widget<AdvancedColorPickerPopup>, advancedPopup},
@@ -279,12 +294,14 @@ const QVector<Component>& components()
          {{FontContext, "Bold"}, {FontContext, "Italic"}, {FontContext, "Underline"}}},
         {"HighlightFrame", highlightFrame, {}},
         {"ImageWatermarkItem", frame<ImageWatermarkItem>, caption, Follows::WhenTold},
-        {"LineStyleComboBox", boxWithWidths<LineStyleComboBox>, {}},
-        {"LineWidthComboBox", boxWithWidths<LineWidthComboBox>, noWidth, Follows::WhenPainted},
+        {"LineStyleComboBox", boxWithItems<LineStyleComboBox, Qt::CustomDashLine>, lineStyles},
+        {"LineWidthComboBox", boxWithItems<LineWidthComboBox, 2>, lineWidths, Follows::WhenPainted},
         {"NoWheelComboBox", widget<NoWheelComboBox>, {}},
-        {"PenPicker", widget<PenPicker>, advancedPopup + noWidth, Follows::WhenPainted},
+        {"PenPicker", widget<PenPicker>, advancedPopup + lineWidths, Follows::WhenPainted},
         {"PresetComboBox", widget<PresetComboBox>, {}},
-        {"PreviewImageLabel", widget<PreviewImageLabel>, {{PreviewContext, "Applied effects"}}},
+        {"PreviewImageLabel",
+         widget<PreviewImageLabel>,
+         {{PreviewContext, "Applied effects"}, {PreviewContext, "Play"}}},
         {"RColorPicker", widget<RColorPicker>, namedPalette, Follows::WhenPainted},
         {"RColorPickerPopup", widget<RColorPickerPopup>, namedPalette, Follows::WhenPainted},
         {"SelectionFrameItem", frame<SelectionFrameItem>, caption, Follows::WhenTold},
@@ -313,8 +330,9 @@ const QVector<Component>& components()
 /// What a translated text looks like once numbers stand at its places and "#" has become a per cent sign.
 QString shape(QString translated)
 {
-    static const QRegularExpression numbers(QStringLiteral("%\\d#|\\d+%"));
-    return translated.replace(numbers, QStringLiteral("0%"));
+    static const QRegularExpression percentages(QStringLiteral("%\\d#|\\d+%"));
+    static const QRegularExpression pixels(QStringLiteral("%?\\d+ px"));
+    return translated.replace(percentages, QStringLiteral("0%")).replace(pixels, QStringLiteral("0 px"));
 }
 
 QSet<QString> shapes(const QSet<QString>& parts)

@@ -33,11 +33,54 @@
     </message>
 </context>
 <context>
+    <name>Kestrel::Gui::LineStyleComboBox</name>
+    <message>
+        <source>none</source>
+        <extracomment>Name of a line style, read out by screen readers: no line.</extracomment>
+        <translation>بلا</translation>
+    </message>
+    <message>
+        <source>solid</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>متصل</translation>
+    </message>
+    <message>
+        <source>dash</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>متقطع</translation>
+    </message>
+    <message>
+        <source>dot</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>منقط</translation>
+    </message>
+    <message>
+        <source>dash dot</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>شرطة نقطة</translation>
+    </message>
+    <message>
+        <source>dash dot dot</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>شرطة نقطتان</translation>
+    </message>
+    <message>
+        <source>custom</source>
+        <extracomment>Name of a line style, read out by screen readers: a dash pattern of the application&apos;s.</extracomment>
+        <translation>مخصص</translation>
+    </message>
+</context>
+<context>
     <name>Kestrel::Gui::LineWidthComboBox</name>
     <message>
         <source>none</source>
         <extracomment>In the closed box, instead of a sample line, where the line width is zero: no line. At most about 8 letters.</extracomment>
         <translation>بلا</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <extracomment>A line width in pixels, read out by screen readers; %1 is the number.</extracomment>
+        <translation>%1 بكسل</translation>
     </message>
 </context>
 <context>
@@ -55,6 +98,11 @@
         <extracomment>Tool tip of the star on the preview of a picture or film: tells, and on a click shows, which effects were applied to it.</extracomment>
         <translation>التأثيرات المطبّقة</translation>
     </message>
+    <message>
+        <source>Play</source>
+        <extracomment>Name of the play button of a preview tile, read out by screen readers.</extracomment>
+        <translation>تشغيل</translation>
+    </message>
 </context>
 <context>
     <name>Kestrel::Gui::RColorPickerPopup</name>
@@ -67,6 +115,211 @@
         <source>Default</source>
         <extracomment>Button at the top of the colour palette: chooses the default colour, not a default action. At most about 15 letters: the button does not grow.</extracomment>
         <translation>افتراضي</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <extracomment>Name of the popup with the named colours, read out by screen readers.</extracomment>
+        <translation>الألوان</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أسود</translation>
+    </message>
+    <message>
+        <source>Brown</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>بني</translation>
+    </message>
+    <message>
+        <source>Dark Olive Green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أخضر زيتوني داكن</translation>
+    </message>
+    <message>
+        <source>Dark Green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أخضر داكن</translation>
+    </message>
+    <message>
+        <source>Dark Teal</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أزرق مخضر داكن</translation>
+    </message>
+    <message>
+        <source>Dark blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أزرق داكن</translation>
+    </message>
+    <message>
+        <source>Indigo</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>نيلي</translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>رمادي داكن</translation>
+    </message>
+    <message>
+        <source>Dark red</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أحمر داكن</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>برتقالي</translation>
+    </message>
+    <message>
+        <source>Dark yellow</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أصفر داكن</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أخضر</translation>
+    </message>
+    <message>
+        <source>Teal</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أزرق مخضر</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أزرق</translation>
+    </message>
+    <message>
+        <source>Blue-grey</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أزرق رمادي</translation>
+    </message>
+    <message>
+        <source>Grey - 40</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>رمادي - 40</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أحمر</translation>
+    </message>
+    <message>
+        <source>Light orange</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>برتقالي فاتح</translation>
+    </message>
+    <message>
+        <source>Lime</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>ليموني</translation>
+    </message>
+    <message>
+        <source>Sea green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أخضر بحري</translation>
+    </message>
+    <message>
+        <source>Aqua</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>مائي</translation>
+    </message>
+    <message>
+        <source>Light blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أزرق فاتح</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>بنفسجي</translation>
+    </message>
+    <message>
+        <source>Grey - 50</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>رمادي - 50</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>وردي</translation>
+    </message>
+    <message>
+        <source>Gold</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>ذهبي</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أصفر</translation>
+    </message>
+    <message>
+        <source>Bright green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أخضر زاهٍ</translation>
+    </message>
+    <message>
+        <source>Turquoise</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>فيروزي</translation>
+    </message>
+    <message>
+        <source>Skyblue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أزرق سماوي</translation>
+    </message>
+    <message>
+        <source>Plum</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>برقوقي</translation>
+    </message>
+    <message>
+        <source>Light grey</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>رمادي فاتح</translation>
+    </message>
+    <message>
+        <source>Rose</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>زهري</translation>
+    </message>
+    <message>
+        <source>Tan</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أسمر</translation>
+    </message>
+    <message>
+        <source>Light yellow</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أصفر فاتح</translation>
+    </message>
+    <message>
+        <source>Pale green </source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أخضر شاحب</translation>
+    </message>
+    <message>
+        <source>Pale turquoise</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>فيروزي شاحب</translation>
+    </message>
+    <message>
+        <source>Pale blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أزرق شاحب</translation>
+    </message>
+    <message>
+        <source>Lavender</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>خزامي</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>أبيض</translation>
     </message>
 </context>
 <context>

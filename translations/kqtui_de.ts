@@ -33,11 +33,54 @@
     </message>
 </context>
 <context>
+    <name>Kestrel::Gui::LineStyleComboBox</name>
+    <message>
+        <source>none</source>
+        <extracomment>Name of a line style, read out by screen readers: no line.</extracomment>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>solid</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>durchgezogen</translation>
+    </message>
+    <message>
+        <source>dash</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>gestrichelt</translation>
+    </message>
+    <message>
+        <source>dot</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>gepunktet</translation>
+    </message>
+    <message>
+        <source>dash dot</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>Strich Punkt</translation>
+    </message>
+    <message>
+        <source>dash dot dot</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>Strich Punkt Punkt</translation>
+    </message>
+    <message>
+        <source>custom</source>
+        <extracomment>Name of a line style, read out by screen readers: a dash pattern of the application&apos;s.</extracomment>
+        <translation>benutzerdefiniert</translation>
+    </message>
+</context>
+<context>
     <name>Kestrel::Gui::LineWidthComboBox</name>
     <message>
         <source>none</source>
         <extracomment>In the closed box, instead of a sample line, where the line width is zero: no line. At most about 8 letters.</extracomment>
         <translation>keine</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <extracomment>A line width in pixels, read out by screen readers; %1 is the number.</extracomment>
+        <translation>%1 px</translation>
     </message>
 </context>
 <context>
@@ -55,6 +98,11 @@
         <extracomment>Tool tip of the star on the preview of a picture or film: tells, and on a click shows, which effects were applied to it.</extracomment>
         <translation>Angewendete Effekte</translation>
     </message>
+    <message>
+        <source>Play</source>
+        <extracomment>Name of the play button of a preview tile, read out by screen readers.</extracomment>
+        <translation>Abspielen</translation>
+    </message>
 </context>
 <context>
     <name>Kestrel::Gui::RColorPickerPopup</name>
@@ -67,6 +115,211 @@
         <source>Default</source>
         <extracomment>Button at the top of the colour palette: chooses the default colour, not a default action. At most about 15 letters: the button does not grow.</extracomment>
         <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <extracomment>Name of the popup with the named colours, read out by screen readers.</extracomment>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>Brown</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Braun</translation>
+    </message>
+    <message>
+        <source>Dark Olive Green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Dunkles Olivgrün</translation>
+    </message>
+    <message>
+        <source>Dark Green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Dunkelgrün</translation>
+    </message>
+    <message>
+        <source>Dark Teal</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Dunkles Blaugrün</translation>
+    </message>
+    <message>
+        <source>Dark blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Dunkelblau</translation>
+    </message>
+    <message>
+        <source>Indigo</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Indigo</translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Dunkelgrau</translation>
+    </message>
+    <message>
+        <source>Dark red</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Dunkelrot</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>Dark yellow</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Dunkelgelb</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Teal</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Blaugrün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Blue-grey</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Blaugrau</translation>
+    </message>
+    <message>
+        <source>Grey - 40</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Grau - 40</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Light orange</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Hellorange</translation>
+    </message>
+    <message>
+        <source>Lime</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Limettengrün</translation>
+    </message>
+    <message>
+        <source>Sea green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Seegrün</translation>
+    </message>
+    <message>
+        <source>Aqua</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Aquamarin</translation>
+    </message>
+    <message>
+        <source>Light blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Hellblau</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Violett</translation>
+    </message>
+    <message>
+        <source>Grey - 50</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Grau - 50</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Rosa</translation>
+    </message>
+    <message>
+        <source>Gold</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Gold</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Bright green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Leuchtend Grün</translation>
+    </message>
+    <message>
+        <source>Turquoise</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Türkis</translation>
+    </message>
+    <message>
+        <source>Skyblue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Himmelblau</translation>
+    </message>
+    <message>
+        <source>Plum</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Pflaume</translation>
+    </message>
+    <message>
+        <source>Light grey</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Hellgrau</translation>
+    </message>
+    <message>
+        <source>Rose</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Zartrosa</translation>
+    </message>
+    <message>
+        <source>Tan</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Hellbraun</translation>
+    </message>
+    <message>
+        <source>Light yellow</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Hellgelb</translation>
+    </message>
+    <message>
+        <source>Pale green </source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Blassgrün</translation>
+    </message>
+    <message>
+        <source>Pale turquoise</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Blasstürkis</translation>
+    </message>
+    <message>
+        <source>Pale blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Blassblau</translation>
+    </message>
+    <message>
+        <source>Lavender</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Lavendel</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Weiß</translation>
     </message>
 </context>
 <context>

@@ -33,11 +33,54 @@
     </message>
 </context>
 <context>
+    <name>Kestrel::Gui::LineStyleComboBox</name>
+    <message>
+        <source>none</source>
+        <extracomment>Name of a line style, read out by screen readers: no line.</extracomment>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>solid</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>continu</translation>
+    </message>
+    <message>
+        <source>dash</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>tirets</translation>
+    </message>
+    <message>
+        <source>dot</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>points</translation>
+    </message>
+    <message>
+        <source>dash dot</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>tiret point</translation>
+    </message>
+    <message>
+        <source>dash dot dot</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>tiret point point</translation>
+    </message>
+    <message>
+        <source>custom</source>
+        <extracomment>Name of a line style, read out by screen readers: a dash pattern of the application&apos;s.</extracomment>
+        <translation>personnalisé</translation>
+    </message>
+</context>
+<context>
     <name>Kestrel::Gui::LineWidthComboBox</name>
     <message>
         <source>none</source>
         <extracomment>In the closed box, instead of a sample line, where the line width is zero: no line. At most about 8 letters.</extracomment>
         <translation>aucune</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <extracomment>A line width in pixels, read out by screen readers; %1 is the number.</extracomment>
+        <translation>%1 px</translation>
     </message>
 </context>
 <context>
@@ -55,6 +98,11 @@
         <extracomment>Tool tip of the star on the preview of a picture or film: tells, and on a click shows, which effects were applied to it.</extracomment>
         <translation>Effets appliqués</translation>
     </message>
+    <message>
+        <source>Play</source>
+        <extracomment>Name of the play button of a preview tile, read out by screen readers.</extracomment>
+        <translation>Lire</translation>
+    </message>
 </context>
 <context>
     <name>Kestrel::Gui::RColorPickerPopup</name>
@@ -67,6 +115,211 @@
         <source>Default</source>
         <extracomment>Button at the top of the colour palette: chooses the default colour, not a default action. At most about 15 letters: the button does not grow.</extracomment>
         <translation>Par défaut</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <extracomment>Name of the popup with the named colours, read out by screen readers.</extracomment>
+        <translation>Couleurs</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Noir</translation>
+    </message>
+    <message>
+        <source>Brown</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Marron</translation>
+    </message>
+    <message>
+        <source>Dark Olive Green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Vert olive foncé</translation>
+    </message>
+    <message>
+        <source>Dark Green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Vert foncé</translation>
+    </message>
+    <message>
+        <source>Dark Teal</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Bleu canard foncé</translation>
+    </message>
+    <message>
+        <source>Dark blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Bleu foncé</translation>
+    </message>
+    <message>
+        <source>Indigo</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Indigo</translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Gris foncé</translation>
+    </message>
+    <message>
+        <source>Dark red</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Rouge foncé</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>Dark yellow</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Jaune foncé</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Teal</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Bleu canard</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>Blue-grey</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Gris bleuté</translation>
+    </message>
+    <message>
+        <source>Grey - 40</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Gris - 40</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Light orange</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Orange clair</translation>
+    </message>
+    <message>
+        <source>Lime</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Citron vert</translation>
+    </message>
+    <message>
+        <source>Sea green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Vert de mer</translation>
+    </message>
+    <message>
+        <source>Aqua</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Aigue-marine</translation>
+    </message>
+    <message>
+        <source>Light blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Bleu clair</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Violet</translation>
+    </message>
+    <message>
+        <source>Grey - 50</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Gris - 50</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Rose</translation>
+    </message>
+    <message>
+        <source>Gold</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Or</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <source>Bright green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Vert vif</translation>
+    </message>
+    <message>
+        <source>Turquoise</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Turquoise</translation>
+    </message>
+    <message>
+        <source>Skyblue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Bleu ciel</translation>
+    </message>
+    <message>
+        <source>Plum</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Prune</translation>
+    </message>
+    <message>
+        <source>Light grey</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Gris clair</translation>
+    </message>
+    <message>
+        <source>Rose</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Rose pâle</translation>
+    </message>
+    <message>
+        <source>Tan</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Brun clair</translation>
+    </message>
+    <message>
+        <source>Light yellow</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Jaune clair</translation>
+    </message>
+    <message>
+        <source>Pale green </source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Vert pâle</translation>
+    </message>
+    <message>
+        <source>Pale turquoise</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Turquoise pâle</translation>
+    </message>
+    <message>
+        <source>Pale blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Bleu pâle</translation>
+    </message>
+    <message>
+        <source>Lavender</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Lavande</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Blanc</translation>
     </message>
 </context>
 <context>

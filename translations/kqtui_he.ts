@@ -33,11 +33,54 @@
     </message>
 </context>
 <context>
+    <name>Kestrel::Gui::LineStyleComboBox</name>
+    <message>
+        <source>none</source>
+        <extracomment>Name of a line style, read out by screen readers: no line.</extracomment>
+        <translation>ללא</translation>
+    </message>
+    <message>
+        <source>solid</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>רציף</translation>
+    </message>
+    <message>
+        <source>dash</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>מקווקו</translation>
+    </message>
+    <message>
+        <source>dot</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>מנוקד</translation>
+    </message>
+    <message>
+        <source>dash dot</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>קו נקודה</translation>
+    </message>
+    <message>
+        <source>dash dot dot</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>קו נקודה נקודה</translation>
+    </message>
+    <message>
+        <source>custom</source>
+        <extracomment>Name of a line style, read out by screen readers: a dash pattern of the application&apos;s.</extracomment>
+        <translation>מותאם אישית</translation>
+    </message>
+</context>
+<context>
     <name>Kestrel::Gui::LineWidthComboBox</name>
     <message>
         <source>none</source>
         <extracomment>In the closed box, instead of a sample line, where the line width is zero: no line. At most about 8 letters.</extracomment>
         <translation>ללא</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <extracomment>A line width in pixels, read out by screen readers; %1 is the number.</extracomment>
+        <translation>%1 פיקסלים</translation>
     </message>
 </context>
 <context>
@@ -55,6 +98,11 @@
         <extracomment>Tool tip of the star on the preview of a picture or film: tells, and on a click shows, which effects were applied to it.</extracomment>
         <translation>אפקטים שהוחלו</translation>
     </message>
+    <message>
+        <source>Play</source>
+        <extracomment>Name of the play button of a preview tile, read out by screen readers.</extracomment>
+        <translation>ניגון</translation>
+    </message>
 </context>
 <context>
     <name>Kestrel::Gui::RColorPickerPopup</name>
@@ -67,6 +115,211 @@
         <source>Default</source>
         <extracomment>Button at the top of the colour palette: chooses the default colour, not a default action. At most about 15 letters: the button does not grow.</extracomment>
         <translation>ברירת מחדל</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <extracomment>Name of the popup with the named colours, read out by screen readers.</extracomment>
+        <translation>צבעים</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>שחור</translation>
+    </message>
+    <message>
+        <source>Brown</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>חום</translation>
+    </message>
+    <message>
+        <source>Dark Olive Green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>ירוק זית כהה</translation>
+    </message>
+    <message>
+        <source>Dark Green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>ירוק כהה</translation>
+    </message>
+    <message>
+        <source>Dark Teal</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>טורקיז כהה</translation>
+    </message>
+    <message>
+        <source>Dark blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>כחול כהה</translation>
+    </message>
+    <message>
+        <source>Indigo</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>אינדיגו</translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>אפור כהה</translation>
+    </message>
+    <message>
+        <source>Dark red</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>אדום כהה</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>כתום</translation>
+    </message>
+    <message>
+        <source>Dark yellow</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>צהוב כהה</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>ירוק</translation>
+    </message>
+    <message>
+        <source>Teal</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>ירוק כחלחל</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>כחול</translation>
+    </message>
+    <message>
+        <source>Blue-grey</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>כחול אפור</translation>
+    </message>
+    <message>
+        <source>Grey - 40</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>אפור - 40</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>אדום</translation>
+    </message>
+    <message>
+        <source>Light orange</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>כתום בהיר</translation>
+    </message>
+    <message>
+        <source>Lime</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>ליים</translation>
+    </message>
+    <message>
+        <source>Sea green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>ירוק ים</translation>
+    </message>
+    <message>
+        <source>Aqua</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>אקווה</translation>
+    </message>
+    <message>
+        <source>Light blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>כחול בהיר</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>סגול</translation>
+    </message>
+    <message>
+        <source>Grey - 50</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>אפור - 50</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>ורוד</translation>
+    </message>
+    <message>
+        <source>Gold</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>זהב</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>צהוב</translation>
+    </message>
+    <message>
+        <source>Bright green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>ירוק זוהר</translation>
+    </message>
+    <message>
+        <source>Turquoise</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>טורקיז</translation>
+    </message>
+    <message>
+        <source>Skyblue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>תכלת</translation>
+    </message>
+    <message>
+        <source>Plum</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>שזיף</translation>
+    </message>
+    <message>
+        <source>Light grey</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>אפור בהיר</translation>
+    </message>
+    <message>
+        <source>Rose</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>ורד</translation>
+    </message>
+    <message>
+        <source>Tan</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>שזוף</translation>
+    </message>
+    <message>
+        <source>Light yellow</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>צהוב בהיר</translation>
+    </message>
+    <message>
+        <source>Pale green </source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>ירוק חיוור</translation>
+    </message>
+    <message>
+        <source>Pale turquoise</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>טורקיז חיוור</translation>
+    </message>
+    <message>
+        <source>Pale blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>כחול חיוור</translation>
+    </message>
+    <message>
+        <source>Lavender</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>לבנדר</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>לבן</translation>
     </message>
 </context>
 <context>

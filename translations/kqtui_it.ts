@@ -33,11 +33,54 @@
     </message>
 </context>
 <context>
+    <name>Kestrel::Gui::LineStyleComboBox</name>
+    <message>
+        <source>none</source>
+        <extracomment>Name of a line style, read out by screen readers: no line.</extracomment>
+        <translation>nessuno</translation>
+    </message>
+    <message>
+        <source>solid</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>continuo</translation>
+    </message>
+    <message>
+        <source>dash</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>tratteggiato</translation>
+    </message>
+    <message>
+        <source>dot</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>punteggiato</translation>
+    </message>
+    <message>
+        <source>dash dot</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>tratto punto</translation>
+    </message>
+    <message>
+        <source>dash dot dot</source>
+        <extracomment>Name of a line style, read out by screen readers.</extracomment>
+        <translation>tratto punto punto</translation>
+    </message>
+    <message>
+        <source>custom</source>
+        <extracomment>Name of a line style, read out by screen readers: a dash pattern of the application&apos;s.</extracomment>
+        <translation>personalizzato</translation>
+    </message>
+</context>
+<context>
     <name>Kestrel::Gui::LineWidthComboBox</name>
     <message>
         <source>none</source>
         <extracomment>In the closed box, instead of a sample line, where the line width is zero: no line. At most about 8 letters.</extracomment>
         <translation>nessuna</translation>
+    </message>
+    <message>
+        <source>%1 px</source>
+        <extracomment>A line width in pixels, read out by screen readers; %1 is the number.</extracomment>
+        <translation>%1 px</translation>
     </message>
 </context>
 <context>
@@ -55,6 +98,11 @@
         <extracomment>Tool tip of the star on the preview of a picture or film: tells, and on a click shows, which effects were applied to it.</extracomment>
         <translation>Effetti applicati</translation>
     </message>
+    <message>
+        <source>Play</source>
+        <extracomment>Name of the play button of a preview tile, read out by screen readers.</extracomment>
+        <translation>Riproduci</translation>
+    </message>
 </context>
 <context>
     <name>Kestrel::Gui::RColorPickerPopup</name>
@@ -67,6 +115,211 @@
         <source>Default</source>
         <extracomment>Button at the top of the colour palette: chooses the default colour, not a default action. At most about 15 letters: the button does not grow.</extracomment>
         <translation>Predefinito</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <extracomment>Name of the popup with the named colours, read out by screen readers.</extracomment>
+        <translation>Colori</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Nero</translation>
+    </message>
+    <message>
+        <source>Brown</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Marrone</translation>
+    </message>
+    <message>
+        <source>Dark Olive Green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Verde oliva scuro</translation>
+    </message>
+    <message>
+        <source>Dark Green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Verde scuro</translation>
+    </message>
+    <message>
+        <source>Dark Teal</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Verde petrolio scuro</translation>
+    </message>
+    <message>
+        <source>Dark blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Blu scuro</translation>
+    </message>
+    <message>
+        <source>Indigo</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Indaco</translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Grigio scuro</translation>
+    </message>
+    <message>
+        <source>Dark red</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Rosso scuro</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Arancione</translation>
+    </message>
+    <message>
+        <source>Dark yellow</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Giallo scuro</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Teal</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Verde petrolio</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Blu</translation>
+    </message>
+    <message>
+        <source>Blue-grey</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Grigio-blu</translation>
+    </message>
+    <message>
+        <source>Grey - 40</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Grigio - 40</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Rosso</translation>
+    </message>
+    <message>
+        <source>Light orange</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Arancione chiaro</translation>
+    </message>
+    <message>
+        <source>Lime</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Lime</translation>
+    </message>
+    <message>
+        <source>Sea green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Verde mare</translation>
+    </message>
+    <message>
+        <source>Aqua</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Acquamarina</translation>
+    </message>
+    <message>
+        <source>Light blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Azzurro</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Viola</translation>
+    </message>
+    <message>
+        <source>Grey - 50</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Grigio - 50</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Rosa</translation>
+    </message>
+    <message>
+        <source>Gold</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Oro</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Giallo</translation>
+    </message>
+    <message>
+        <source>Bright green</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Verde brillante</translation>
+    </message>
+    <message>
+        <source>Turquoise</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Turchese</translation>
+    </message>
+    <message>
+        <source>Skyblue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Celeste</translation>
+    </message>
+    <message>
+        <source>Plum</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Prugna</translation>
+    </message>
+    <message>
+        <source>Light grey</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Grigio chiaro</translation>
+    </message>
+    <message>
+        <source>Rose</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Rosa antico</translation>
+    </message>
+    <message>
+        <source>Tan</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Cuoio</translation>
+    </message>
+    <message>
+        <source>Light yellow</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Giallo chiaro</translation>
+    </message>
+    <message>
+        <source>Pale green </source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Verde pallido</translation>
+    </message>
+    <message>
+        <source>Pale turquoise</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Turchese pallido</translation>
+    </message>
+    <message>
+        <source>Pale blue</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Blu pallido</translation>
+    </message>
+    <message>
+        <source>Lavender</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Lavanda</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <extracomment>Name of a colour of the palette, read out by screen readers.</extracomment>
+        <translation>Bianco</translation>
     </message>
 </context>
 <context>
