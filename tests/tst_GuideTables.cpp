@@ -88,8 +88,9 @@ QStringList cells(const QString& line)
     if (!line.startsWith(QLatin1Char('|')))
         return {};
     QStringList result;
-    const QStringList parts = line.split(QLatin1Char('|')).mid(1);
-    for (const QString& part : parts.mid(0, parts.size() - 1))
+    const int inner = line.count(QLatin1Char('|')) - 1;
+    const QStringList parts = line.split(QLatin1Char('|')).mid(1, inner);
+    for (const QString& part : parts)
         result << part.trimmed().remove(QLatin1Char('`'));
     return result;
 }

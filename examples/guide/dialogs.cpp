@@ -35,6 +35,7 @@ private:
     QListWidget* m_list;
 };
 
+// What the lambdas capture lives as long as main(). clazy:excludeall=lambda-in-connect
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);

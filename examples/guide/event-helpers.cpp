@@ -22,6 +22,7 @@ public:
     }
 };
 
+// What the lambdas capture lives as long as main(). clazy:excludeall=lambda-in-connect
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);

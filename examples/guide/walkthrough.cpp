@@ -11,6 +11,7 @@
 
 using namespace Kestrel::Gui;
 
+// What the lambdas capture lives as long as main(). clazy:excludeall=lambda-in-connect
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
