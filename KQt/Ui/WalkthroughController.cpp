@@ -28,6 +28,8 @@ const QLatin1String Finished("finished");
 const QLatin1String Disabled("disabled");
 const QLatin1String Inactive("inactive");
 const QLatin1String Active("active");
+// No path leads to it.
+const QLatin1String PlaceholderGroup("/");
 
 QString targetName(const QObject* object)
 {
@@ -109,14 +111,18 @@ public:
         }
     }
 
-    void add(WalkthroughController& controller, QState* from, const QList<QAbstractState*>& to)
+    QEventTransition* add(WalkthroughController& controller, QState* from, const QList<QAbstractState*>& to)
     {
         const QScopedValueRollback<bool> ownChild(controller.m_addsToStates, true);
         auto* transition = new QEventTransition(&m_trigger, m_type);
         transition->setTargetStates(to);
         from->addTransition(transition);
         m_transitions.emplace_back(transition);
+        return transition;
     }
+
+    /// Steps that the machine comes to before this one, to be gone with it.
+    void keep(std::vector<std::unique_ptr<CommonStep>> earlier) { m_earlier = std::move(earlier); }
 
     QObject* trigger() { return &m_trigger; }
 
@@ -124,6 +130,7 @@ private:
     QEvent::Type m_type;
     QObject m_trigger;
     std::vector<QPointer<QEventTransition>> m_transitions;
+    std::vector<std::unique_ptr<CommonStep>> m_earlier;
 };
 
 WalkthroughController::WalkthroughController()
@@ -131,7 +138,9 @@ WalkthroughController::WalkthroughController()
     , m_showTimer(this)
 {
     setInitialState(m_rootState);
+    makePlaceholder();
     connect(this, &QStateMachine::started, this, &WalkthroughController::executeQueuedStates, Qt::QueuedConnection);
+    connect(this, &QStateMachine::started, this, &WalkthroughController::endTurn, Qt::QueuedConnection);
     connect(this, &QStateMachine::stopped, this, &WalkthroughController::clearQueuedStates, Qt::QueuedConnection);
     // A machine that stops exits no state, and enters the initial ones when it starts again.
     connect(this, &QStateMachine::stopped, this, &WalkthroughController::countConditionsAnew);
@@ -255,6 +264,7 @@ QAbstractState* WalkthroughController::findOrCreateState(const QString& path)
     QState* group = childState(m_rootState, groupName);
     const bool isNewGroup = !group;
     if (isNewGroup) {
+        removePlaceholder();
         group = new QState(QState::ExclusiveStates, m_rootState);
         group->setObjectName(groupName);
     }
@@ -273,6 +283,22 @@ QAbstractState* WalkthroughController::findOrCreateState(const QString& path)
         joinByEvent(state, other, eventType());
     }
     return state;
+}
+
+/// A machine takes no transition of a state that has none but inactive states in it: without this, one that starts
+/// before there is any group could never enter one.
+void WalkthroughController::makePlaceholder()
+{
+    const QScopedValueRollback<bool> ownChild(m_addsToStates, true);
+    auto* placeholder = new QState(m_rootState);
+    placeholder->setObjectName(PlaceholderGroup);
+}
+
+void WalkthroughController::removePlaceholder()
+{
+    // Once it is active, or about to be, it has to stay.
+    if (!configuration().contains(m_rootState))
+        delete childState(m_rootState, PlaceholderGroup);
 }
 
 QString WalkthroughController::statePath(const QString& group, const QString& state) const
@@ -587,10 +613,8 @@ void WalkthroughController::enter(QAbstractState* state)
 {
     if (isLate(state)) {
         enterLateGroups();
-        if (isLate(state)) {
-            // The machine is busy. Once it is not, control is back in the event loop.
+        if (isLate(state) && m_turn) {
             m_queuedStates.append(state);
-            QMetaObject::invokeMethod(this, &WalkthroughController::executeQueuedStates, Qt::QueuedConnection);
             return;
         }
     }
@@ -614,7 +638,7 @@ void WalkthroughController::enterTogether(const QVector<QAbstractState*>& states
 {
     if (std::any_of(states.cbegin(), states.cend(), [this](const QAbstractState* state) { return isLate(state); }))
         enterLateGroups();
-    auto step = std::make_shared<CommonStep>(eventType());
+    auto step = std::make_unique<CommonStep>(eventType());
     for (QAbstractState* state : states) {
         if (isLate(state)) {
             enter(state);
@@ -631,11 +655,35 @@ void WalkthroughController::enterTogether(const QVector<QAbstractState*>& states
     const QSet<QAbstractState*> active = configuration();
     const bool isBusy = std::any_of(states.cbegin(), states.cend(),
                                     [&active](QAbstractState* state) { return !active.contains(state); });
-    if (isBusy) {
-        // The transitions have to wait for the machine, which has come to them when control is in the event loop again.
-        QMetaObject::invokeMethod(
-            this, [step]() mutable { step.reset(); }, Qt::QueuedConnection);
+    if (isBusy && active.contains(m_rootState)) {
+        m_waitingSteps.push_back(std::move(step));
+        waitForTurn();
     }
+}
+
+/// Has what waits done once the machine, which is busy, has come to it.
+///
+/// Asking it from the event loop again and again would not do: the slot that it is busy with may run one of its own, as
+/// that of a dialog, for as long as the user likes.
+void WalkthroughController::waitForTurn()
+{
+    if (m_turn)
+        return;
+    m_turn = std::make_unique<CommonStep>(eventType());
+    m_turn->keep(std::exchange(m_waitingSteps, {}));
+    // Without a target: no state is left for it.
+    const QEventTransition* transition = m_turn->add(*this, m_rootState, {});
+    connect(transition, &QAbstractTransition::triggered, this, &WalkthroughController::endTurn, Qt::QueuedConnection);
+    take(*m_turn);
+}
+
+void WalkthroughController::endTurn()
+{
+    m_turn.reset();
+    if (!m_waitingSteps.empty())
+        waitForTurn();
+    enterLateGroups();
+    executeQueuedStates();
 }
 
 /// Enters groups that were made while the machine ran, in their initial states.
@@ -665,8 +713,8 @@ void WalkthroughController::enterLateGroups()
     step.add(*this, m_rootState, targets);
     take(step);
     m_silence.clear();
-    if (isLate(late)) // The machine is busy; it is not when control is in the event loop again.
-        QMetaObject::invokeMethod(this, &WalkthroughController::enterLateGroups, Qt::QueuedConnection);
+    if (isLate(late))
+        waitForTurn();
 }
 
 } // namespace Kestrel::Gui

@@ -14,6 +14,7 @@
 #include <QTimer>
 #include <QVector>
 
+#include <memory>
 #include <vector>
 
 QT_BEGIN_NAMESPACE
@@ -154,6 +155,10 @@ private:
     void enter(QAbstractState* state);
     void enterTogether(const QVector<QAbstractState*>& states);
     void enterLateGroups();
+    void makePlaceholder();
+    void removePlaceholder();
+    void waitForTurn();
+    void endTurn();
 
     QMultiMap<QAbstractState*, WalkthroughHint*> m_conditionHints;
     QMultiMap<QString, QWidget*> m_targetWidgets;
@@ -171,6 +176,8 @@ private:
     bool m_addsToStates = false;
     bool m_hasForeignTransitions = false;
     std::vector<QSignalBlocker> m_silence; // of states that are re-entered only for the sake of new groups
+    std::vector<std::unique_ptr<CommonStep>> m_waitingSteps; // that the machine has not come to, being busy
+    std::unique_ptr<CommonStep> m_turn;                      // taken once it has come to what waits by now
 };
 
 } // namespace Kestrel::Gui
