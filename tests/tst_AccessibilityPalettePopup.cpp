@@ -16,7 +16,6 @@
 #include <memory>
 
 using Kestrel::Gui::RColorPicker;
-using Kestrel::Gui::RColorPickerPopup;
 using namespace TestSupport;
 
 namespace {

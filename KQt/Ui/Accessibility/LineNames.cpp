@@ -52,7 +52,7 @@ QString lineWidthName(int width)
 QString lineItemName(const QComboBox& box, int row)
 {
     for (const int role : {int(Qt::AccessibleTextRole), int(Qt::DisplayRole)}) {
-        const QString text = box.itemData(row, role).toString();
+        QString text = box.itemData(row, role).toString();
         if (!text.isEmpty())
             return text;
     }

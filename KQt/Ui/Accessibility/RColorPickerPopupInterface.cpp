@@ -35,7 +35,7 @@ QAccessibleInterface* RColorPickerPopupInterface::parent() const
 
 QString RColorPickerPopupInterface::text(QAccessible::Text kind) const
 {
-    const QString given = QAccessibleWidget::text(kind);
+    QString given = QAccessibleWidget::text(kind);
     if (kind != QAccessible::Name || !given.isEmpty())
         return given;
     //: Name of the popup with the named colours, read out by screen readers.

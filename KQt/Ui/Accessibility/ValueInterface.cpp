@@ -23,7 +23,7 @@ QString ValueInterface::fallbackName() const
 
 QString ValueInterface::name() const
 {
-    const QString given = QAccessibleWidget::text(QAccessible::Name);
+    QString given = QAccessibleWidget::text(QAccessible::Name);
     if (!given.isEmpty())
         return given;
     const QString value = valueText();
