@@ -1,5 +1,7 @@
 #include "Contracts.h"
 
+#include <KQt/Ui/AdvancedColorPicker.h>
+
 #include <QColor>
 #include <QMetaMethod>
 #include <QMetaProperty>
@@ -55,12 +57,13 @@ void Contracts::watch(QObject* object)
         m_lastValues.remove(gone);
     });
     watchBooleans(object);
-    for (const char* signal : {"changedColor(QColor)", "doneSelectionWithColor(QColor)", "selected(QColor)",
-                               "colorChanged(QColor)", "doneColorSelection(QColor)"}) {
+    // The other pickers hand on what a program gave them, and a program may give them no colour at all.
+    if (!qobject_cast<Kestrel::Gui::AdvancedColorPicker*>(object))
+        return;
+    for (const char* signal : {"changedColor(QColor)", "doneSelectionWithColor(QColor)"}) {
         const int index = object->metaObject()->indexOfSignal(signal);
-        if (index >= 0)
-            connect(object, object->metaObject()->method(index), this,
-                    metaObject()->method(metaObject()->indexOfSlot("colorReported(QColor)")));
+        connect(object, object->metaObject()->method(index), this,
+                metaObject()->method(metaObject()->indexOfSlot("colorReported(QColor)")));
     }
 }
 
