@@ -1,8 +1,5 @@
 #include "Contracts.h"
 
-#include <KQt/Ui/AdvancedColorPicker.h>
-
-#include <QColor>
 #include <QMetaMethod>
 #include <QMetaProperty>
 
@@ -57,14 +54,6 @@ void Contracts::watch(QObject* object)
         m_lastValues.remove(gone);
     });
     watchBooleans(object);
-    // The other pickers hand on what a program gave them, and a program may give them no colour at all.
-    if (!qobject_cast<Kestrel::Gui::AdvancedColorPicker*>(object))
-        return;
-    for (const char* signal : {"changedColor(QColor)", "doneSelectionWithColor(QColor)"}) {
-        const int index = object->metaObject()->indexOfSignal(signal);
-        connect(object, object->metaObject()->method(index), this,
-                metaObject()->method(metaObject()->indexOfSlot("colorReported(QColor)")));
-    }
 }
 
 void Contracts::watchBooleans(QObject* object)
@@ -97,11 +86,4 @@ void Contracts::propertyNotified()
                      .arg(QLatin1String(object->metaObject()->className()), QLatin1String(property.name())));
         value.value() = now;
     }
-}
-
-void Contracts::colorReported(const QColor& color)
-{
-    if (!color.isValid() && sender())
-        note(QStringLiteral("%1 reported a colour that is none")
-                 .arg(QLatin1String(sender()->metaObject()->className())));
 }

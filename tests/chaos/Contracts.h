@@ -7,8 +7,8 @@
 #include <QStringList>
 #include <QVariant>
 
-/// Watches what must be true whatever happens: a property of two states tells a change only where there is one, colours
-/// that are reported as chosen are valid, and Qt has nothing to say about the library's classes.
+/// Watches what must be true whatever happens: a property of two states tells a change only where there is one, and Qt
+/// has nothing to say about the library's classes.
 class Contracts : public QObject
 {
     Q_OBJECT
@@ -24,7 +24,6 @@ public:
 
 private Q_SLOTS:
     void propertyNotified();
-    void colorReported(const QColor& color);
 
 private:
     void watchBooleans(QObject* object);
