@@ -18,3 +18,9 @@ set(KQTUI_SANITIZE "" CACHE STRING "Sanitizers for every target, as the compiler
 if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
   set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Build type" FORCE)
 endif()
+
+# For every program that ctest starts. Leaks are reported by the sanitizer build; what Qt, fontconfig and drivers keep until
+# the end of the process is not ours.
+set(KQTUI_TEST_ENVIRONMENT
+  "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0"
+  "UBSAN_OPTIONS=print_stacktrace=1")
