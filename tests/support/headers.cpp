@@ -1,0 +1,1 @@
+// Nothing: precompiled headers belong to a target, and a target has a source.
