@@ -83,6 +83,7 @@ private Q_SLOTS:
     void swatchesAreRadioButtonsNamedByColor();
     void pressingASwatchChoosesIt();
     void aSlotTellsItsNewColor();
+    void fieldsOfThePopupHaveNames();
     void advancedPicker();
     void advancedPopupIsAChildOfItsPicker();
     void namedPicker();
@@ -142,6 +143,17 @@ void tst_AccessibilityColors::aSlotTellsItsNewColor()
     QVERIFY(updates.count(slot, QAccessible::NameChanged) > 0);
     QCOMPARE(nameOf(slot), QStringLiteral("#010203"));
     popup.setColor(Qt::gray); // the slots are those of the whole process
+}
+
+void tst_AccessibilityColors::fieldsOfThePopupHaveNames()
+{
+    const AdvancedColorPickerPopup popup;
+    const auto nameOfThe = [&popup](const char* field) {
+        return nameOf(popup.findChild<QWidget*>(QLatin1String(field)));
+    };
+    QCOMPARE(nameOfThe("colorEdit"), QStringLiteral("Color"));
+    QCOMPARE(nameOfThe("opacityEdit"), QStringLiteral("OPACITY"));
+    QCOMPARE(nameOfThe("opacitySlider"), QStringLiteral("OPACITY"));
 }
 
 void tst_AccessibilityColors::advancedPicker()

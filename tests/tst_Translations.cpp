@@ -271,7 +271,7 @@ OwnTexts paletteTexts()
 /// Every exported component that users see. One that is added to the library is added here.
 const QVector<Component>& components()
 {
-    static const OwnTexts advancedPopup = {{PopupContext, "%"}, {PopupContext, "OPACITY"}};
+    static const OwnTexts advancedPopup = {{PopupContext, "%"}, {PopupContext, "OPACITY"}, {PopupContext, "Color"}};
     static const OwnTexts namedPalette = paletteTexts();
     static const OwnTexts lineWidths = {
         {WidthBoxContext, "none"}, {WidthBoxContext, "%1 px"}, {WidthListContext, "none"}};

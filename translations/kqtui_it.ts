@@ -13,6 +13,11 @@
         <extracomment>Label before the opacity slider of the colour popup, in capitals where the script has them. At most about 12 letters.</extracomment>
         <translation>OPACITÀ</translation>
     </message>
+    <message>
+        <source>Color</source>
+        <extracomment>Read by screen readers: the name of the field in the colour popup where a colour is typed as &quot;#rrggbb&quot;.</extracomment>
+        <translation>Colore</translation>
+    </message>
 </context>
 <context>
     <name>Kestrel::Gui::FontStylePicker</name>

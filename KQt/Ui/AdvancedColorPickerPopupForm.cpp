@@ -103,6 +103,12 @@ void AdvancedColorPickerPopupForm::retranslate()
     //: Label before the opacity slider of the colour popup, in capitals where the script has them. At most about 12
     //: letters.
     label->setText(QCoreApplication::translate("AdvancedColorPickerPopup", "OPACITY"));
+
+    // For those who do not see what stands where.
+    opacityEdit->setAccessibleName(label->text());
+    opacitySlider->setAccessibleName(label->text());
+    //: Read by screen readers: the name of the field in the colour popup where a colour is typed as "#rrggbb".
+    colorEdit->setAccessibleName(QCoreApplication::translate("AdvancedColorPickerPopup", "Color"));
 }
 
 } // namespace Kestrel::Gui
