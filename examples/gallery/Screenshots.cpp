@@ -80,6 +80,9 @@ void Screenshots::writePage(const PageRegistration& registration)
     frame.resize(sizeFor(frame));
     frame.show();
     waitUntilShown(&frame);
+    // Only what was shown has its style, and with it its final size.
+    frame.resize(frame.size().expandedTo(sizeFor(frame)));
+    QCoreApplication::processEvents();
     writePicture(frame, registration.slug());
     checkStage(*frame.page(), registration.slug());
     writePopups(*frame.page(), registration.slug());
