@@ -1,7 +1,7 @@
 # Short names for the usual jobs. Everything that they do can also be done with the presets of CMakePresets.json.
 PREFIX ?= /usr/local
 ARGS ?=
-.PHONY: gallery test check bench chaos docs windows translations install
+.PHONY: gallery test check bench chaos fuzz build-matrix docs windows translations install
 
 gallery: ## build and start the gallery; ARGS="--screenshots DIR" and other options are handed to it
 	@tools/install-dependencies build && tools/build dev kqtui-gallery && build/dev/examples/gallery/kqtui-gallery $(ARGS)
@@ -13,6 +13,10 @@ bench: ## every benchmark beside its peers; ARGS are handed to each
 	@tools/install-dependencies build test && tools/build release && tools/run-benchmarks build/release $(ARGS)
 chaos: ## 100,000 random things with every component, under the sanitizers; ARGS="--seed N" for others
 	@tools/install-dependencies build test && tools/build asan kqtui-chaos && QT_QPA_PLATFORM=offscreen build/asan/tests/chaos/kqtui-chaos $(ARGS)
+fuzz: ## every fuzzer for an hour or ten million inputs; ARGS are libFuzzer's
+	@tools/install-dependencies build checks && tools/build fuzz && tools/run-fuzzers build/fuzz -runs=10000000 -max_total_time=3600 $(ARGS)
+build-matrix: ## the library built by g++ and clang, in both standards, at every level, linked at last, shared and static
+	@tools/install-dependencies build test checks && tools/run-build-matrix $(ARGS)
 docs: ## the reference in build/release/docs/html
 	@tools/install-dependencies build test docs && tools/build release docs
 windows: ## cross-build for Windows and run its tests under wine
