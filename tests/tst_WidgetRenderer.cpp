@@ -620,7 +620,7 @@ void tst_WidgetRenderer::composesAtTwoDevicePixels()
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(QCoreApplication::applicationFilePath(),
                   {QStringLiteral("composesRandomWidgets"), QStringLiteral("fillsWithOpaqueBlack")});
-    QVERIFY(process.waitForFinished(60000));
+    QVERIFY(process.waitForFinished(240000));
     const QByteArray output = process.readAll();
     QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0, output);
 }
