@@ -19,6 +19,9 @@ namespace Kestrel::Gui {
 /// separated by blanks, in parentheses. Where a `selectedFilter` is given, the chosen entry is written to it; it is not
 /// owned and must outlive the call, and null is allowed. Nothing throws.
 ///
+/// The library starts no thread. Qt's dialog for files and folders has one of its own while it is open
+/// ("QFileInfoGatherer"), in which it reads folders.
+///
 /// A parent is not owned. Null makes the dialog a window of its own. A parent that goes while Qt's dialog is open takes
 /// it along: the user has cancelled.
 class KQTUI_EXPORT StandardDialogs

@@ -24,7 +24,8 @@ namespace Kestrel::Gui {
 ///   entry is that of QGuiApplication::desktopFileName(), which is read at construction; all windows share it, and the
 ///   last change by any object is what is seen. Changes go out from the event loop, less than 20 times a second. The
 ///   entry knows neither a busy nor a paused look: busy is an empty bar, paused looks like running, stopped asks for
-///   attention ("urgent"). Without a desktop file name or a bus nothing is shown.
+///   attention ("urgent"). Without a desktop file name or a bus nothing is shown. QtDBus has a thread of its own for
+///   the connection ("QDBusConnection"), which is started with the first object that has a desktop file name and stays.
 /// - Elsewhere nothing is shown.
 class KQTUI_EXPORT TaskbarProgress
 {
