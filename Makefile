@@ -1,7 +1,7 @@
 # Short names for the usual jobs. Everything that they do can also be done with the presets of CMakePresets.json.
 PREFIX ?= /usr/local
 ARGS ?=
-.PHONY: gallery test check bench chaos fuzz build-matrix docs windows translations install
+.PHONY: gallery test check matrix bench chaos fuzz build-matrix docs windows translations install
 
 gallery: ## build and start the gallery; ARGS="--screenshots DIR" and other options are handed to it
 	@tools/install-dependencies build && tools/build dev kqtui-gallery && build/dev/examples/gallery/kqtui-gallery $(ARGS)
@@ -9,6 +9,8 @@ test: ## release build with warnings as errors, then every test
 	@tools/install-dependencies build test && tools/build release && ctest --preset release
 check: ## everything that a change must pass
 	@.ci/run
+matrix: ## the tests at other scales, right to left, with other styles and locales, under Wayland, on Windows; ARGS="ROW..." for some
+	@tools/install-dependencies build test windows matrix && tools/build release && tools/build-windows-sysroot && tools/build windows && tools/run-matrix $(ARGS)
 bench: ## every benchmark beside its peers; ARGS are handed to each
 	@tools/install-dependencies build test && tools/build release && tools/run-benchmarks build/release $(ARGS)
 chaos: ## 100,000 random things with every component, under the sanitizers; ARGS="--seed N" for others
