@@ -377,7 +377,7 @@ void tst_AdvancedColorPickerPopup::paletteSwatchesLieInAGrid()
             QCOMPARE(swatch->maximumSize(), QSize(20, 20));
             QVERIFY(swatch->isCheckable());
             const QPoint fromFirst = swatch->pos() - paletteSwatches().constFirst()->pos();
-            QCOMPARE(fromFirst, QPoint(column * 20, row * 20));
+            QCOMPARE(fromFirst, QPoint(column * (m_popup->isRightToLeft() ? -20 : 20), row * 20));
         }
     }
 }
@@ -907,7 +907,8 @@ void tst_AdvancedColorPickerPopup::userSlotsCannotBeDragged()
     TestSupport::sendMouse(userSlots().constFirst(), QEvent::MouseButtonPress, {1, 1}, Qt::LeftButton, Qt::LeftButton);
     TestSupport::sendMouse(userSlots().constFirst(), QEvent::MouseMove, {300, 1}, Qt::NoButton, Qt::LeftButton);
     QCOMPARE(watcher.drags(), 0);
-    TestSupport::sendMouse(userSlots().constFirst(), QEvent::MouseButtonRelease, {300, 1}, Qt::LeftButton, Qt::NoButton);
+    TestSupport::sendMouse(userSlots().constFirst(), QEvent::MouseButtonRelease, {300, 1}, Qt::LeftButton,
+                           Qt::NoButton);
 }
 
 void tst_AdvancedColorPickerPopup::paletteSwatchesCanBeDragged()

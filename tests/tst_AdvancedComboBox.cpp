@@ -387,7 +387,7 @@ void tst_AdvancedComboBox::takesFocusOnlyWhenTold()
     AdvancedComboBox box;
     box.show();
     box.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&box));
+    QTRY_VERIFY(box.isActiveWindow());
     QTest::mouseClick(&box, Qt::RightButton);
     QVERIFY(!box.hasFocus());
     box.setFocusPolicy(Qt::StrongFocus);

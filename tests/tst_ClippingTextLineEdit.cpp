@@ -95,7 +95,7 @@ private:
 void tst_ClippingTextLineEdit::init()
 {
     m_form = std::make_unique<Form>();
-    QVERIFY(QTest::qWaitForWindowActive(m_form.get()));
+    QTRY_VERIFY(m_form->isActiveWindow());
 }
 
 void tst_ClippingTextLineEdit::cleanup()
@@ -356,8 +356,10 @@ void tst_ClippingTextLineEdit::settingTheTextLosesUncommittedTyping()
 void tst_ClippingTextLineEdit::baseClassSeesResizes()
 {
     ClippingTextLineEdit& edit = m_form->edit;
+    // The position at the right in either direction: that is the one which a resize moves.
+    const auto atTheRight = edit.isRightToLeft() ? QLineEdit::LeadingPosition : QLineEdit::TrailingPosition;
     QAction action;
-    edit.addAction(&action, QLineEdit::TrailingPosition);
+    edit.addAction(&action, atTheRight);
     const auto* button = edit.findChild<QToolButton*>();
     QVERIFY(button);
     const int before = edit.width() - button->x();

@@ -226,6 +226,7 @@ void tst_CustomSliderWithZeroTick::withoutPropertiesTheTickIsOnePixel()
     // A pen of width 0 is as thin as a line gets, and colours that are not set are black.
     CustomSliderWithZeroTick slider(Qt::Horizontal);
     QSlider plain(Qt::Horizontal);
+    plain.setLayoutDirection(Qt::LeftToRight); // or it would be mirrored
     for (QSlider* each : {static_cast<QSlider*>(&slider), &plain})
         each->resize(sliderSize);
     slider.setValue(20);

@@ -219,6 +219,8 @@ private:
 
 void tst_Gallery::initTestCase()
 {
+    // The gallery has a look of its own.
+    qApp->setStyleSheet(QString());
     QApplication::setStyle(QStringLiteral("fusion"));
     // As large as on a desktop; the offscreen platform's own is larger than on any.
     QApplication::setFont(QFont(QStringLiteral("sans-serif"), 10));

@@ -90,6 +90,7 @@ class tst_GalleryTour : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    static void initTestCase();
     void init();
     void cleanup();
 
@@ -110,6 +111,14 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
+
+void tst_GalleryTour::initTestCase()
+{
+    // The gallery has a look of its own, and fonts as large as on a desktop.
+    qApp->setStyleSheet(QString());
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setFont(QFont(QStringLiteral("sans-serif"), 10));
+}
 
 void tst_GalleryTour::init()
 {
@@ -174,7 +183,7 @@ void tst_GalleryTour::pressingTheTargetGoesOn()
 void tst_GalleryTour::byKeyboard()
 {
     TouredGallery gallery(settingsFile());
-    if (!QTest::qWaitForWindowActive(&gallery.window))
+    if (!QTest::qWaitFor([&gallery] { return gallery.window.isActiveWindow(); }))
         QSKIP("windows are not activated here");
     QVERIFY(gallery.waitForHint("tour-pages"));
     auto* hint = gallery.shownHint();
@@ -192,7 +201,7 @@ void tst_GalleryTour::byKeyboard()
 void tst_GalleryTour::focusReturns()
 {
     TouredGallery gallery(settingsFile());
-    if (!QTest::qWaitForWindowActive(&gallery.window))
+    if (!QTest::qWaitFor([&gallery] { return gallery.window.isActiveWindow(); }))
         QSKIP("windows are not activated here");
     auto* filter = gallery.window.findChild<QLineEdit*>(QStringLiteral("filter"));
     filter->setFocus();

@@ -395,6 +395,9 @@ void tst_HighlightFrame::followsScrolling()
     area.resize(300, 200);
     area.show();
     QVERIFY(QTest::qWaitForWindowExposed(&area));
+    // Right to left, an area starts with the right end of its content, and its scroll bar runs the other way.
+    QScrollBar* const sideways = area.horizontalScrollBar();
+    sideways->setValue(area.isRightToLeft() ? sideways->maximum() : sideways->minimum());
     auto* frame = new HighlightFrame(QSet<QWidget*>{target});
     QTRY_VERIFY(frame->isVisible());
     const QRect before = frame->geometry();

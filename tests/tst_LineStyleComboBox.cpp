@@ -91,6 +91,7 @@ void tst_LineStyleComboBox::closedBoxShowsLineInStyle()
     QImage expected = render(plain);
     {
         QPainter painter(&expected);
+        box.ensurePolished(); // a style sheet sets the palette
         QPen pen(box.palette().color(box.foregroundRole()), 2);
         pen.setStyle(Qt::PenStyle(style));
         painter.setPen(pen);

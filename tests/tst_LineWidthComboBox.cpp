@@ -69,6 +69,7 @@ QImage renderedWord(const QVariant& width, const QString& word)
 
 QImage renderedLine(const QVariant& width, const QComboBox& box)
 {
+    box.ensurePolished(); // a style sheet sets the palette
     // Sixteen pixels off the arrow, where a style box keeps four: kept, forms are laid out for it.
     const int end = boxSize.width() - 1 - 16 - arrowWidthOf(box);
     return renderedWith(width, [&](QPainter& painter) {

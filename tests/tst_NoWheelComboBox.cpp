@@ -81,7 +81,7 @@ void tst_NoWheelComboBox::wheelOverFocusedBoxChangesNothing()
     box->addItems({QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")});
     ScrollingForm form(box);
     form.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&form));
+    QTRY_VERIFY(form.isActiveWindow());
     box->setFocus();
     QTRY_VERIFY(box->hasFocus());
 
@@ -101,7 +101,7 @@ void tst_NoWheelComboBox::takesFocusByTabAndClickButNotByWheel()
     QCOMPARE(box->focusPolicy(), Qt::StrongFocus);
     window.show();
     window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QTRY_VERIFY(window.isActiveWindow());
     other->setFocus();
     QTRY_VERIFY(other->hasFocus());
 

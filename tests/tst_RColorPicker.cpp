@@ -6,6 +6,7 @@
 #include <QMetaProperty>
 #include <QSignalSpy>
 #include <QStyleOptionButton>
+#include <QStylePainter>
 #include <QVBoxLayout>
 
 #include <QtTest>
@@ -30,6 +31,18 @@ protected:
     {
         paints += event->type() == QEvent::Paint;
         return QObject::eventFilter(watched, event);
+    }
+};
+
+/// What a style draws for a push button that is neither raised nor pressed and says nothing.
+class PlainButton : public QPushButton
+{
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QStyleOptionButton option;
+        option.initFrom(this);
+        QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
     }
 };
 
@@ -127,10 +140,10 @@ void tst_RColorPicker::setColorStylesByObjectName()
     picker.setColor(QColor(1, 2, 3, 40));
     QCOMPARE(picker.color(), QColor(1, 2, 3, 40));
     QCOMPARE(picker.styleSheet(), QStringLiteral("#lineColor{background-color: #010203;}"));
-    QPushButton plain;
+    PlainButton plain;
     plain.setObjectName(picker.objectName());
     plain.setStyleSheet(picker.styleSheet());
-    for (QPushButton* button : {&plain, static_cast<QPushButton*>(&picker)})
+    for (QPushButton* button : {static_cast<QPushButton*>(&plain), static_cast<QPushButton*>(&picker)})
         button->resize(40, 20);
     QCOMPARE(render(picker), render(plain));
 

@@ -2,6 +2,7 @@
 #include <KQt/Ui/RColorPickerPopup.h>
 
 #include "support/AccessibleUpdates.h"
+#include "support/Render.h"
 
 #include <QColorDialog>
 #include <QCursor>
@@ -59,7 +60,7 @@ struct OpenPicker
         return none;
     }
 
-    QImage picture() const { return popup().grab().toImage().convertToFormat(QImage::Format_RGB32); }
+    QImage picture() const { return TestSupport::render(popup()).convertToFormat(QImage::Format_RGB32); }
 
     RColorPicker picker;
 };

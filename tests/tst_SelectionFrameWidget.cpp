@@ -113,6 +113,8 @@ struct Stage
     Stage()
         : widget(nullptr, &window)
     {
+        // A view that is not shown does not yet know which end of its scene it starts with, right to left.
+        widget.setLayoutDirection(Qt::LeftToRight);
         widget.setFrameShape(QFrame::NoFrame);
         widget.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         widget.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -2,6 +2,7 @@
 
 #include "support/MetaListing.h"
 #include "support/Render.h"
+#include "support/WindowSystem.h"
 
 #include <QLineEdit>
 #include <QPainter>
@@ -197,7 +198,7 @@ private:
 void tst_TextEditWithPlaceholder::init()
 {
     m_form = std::make_unique<Form>();
-    QVERIFY(QTest::qWaitForWindowActive(m_form.get()));
+    QTRY_VERIFY(m_form->isActiveWindow());
 }
 
 void tst_TextEditWithPlaceholder::cleanup()
@@ -325,6 +326,7 @@ void tst_TextEditWithPlaceholder::hintFollowsTheFocus_data()
 
 void tst_TextEditWithPlaceholder::hintFollowsTheFocus()
 {
+    SKIP_WITHOUT_A_PICTURE_OF_THE_SCREEN();
     QFETCH(int, cursorWidth);
     QFETCH(Qt::TextInteractionFlag, interaction);
     TextEditWithPlaceholder& edit = m_form->edit;
@@ -350,6 +352,7 @@ void tst_TextEditWithPlaceholder::hintFollowsTheText_data()
 
 void tst_TextEditWithPlaceholder::hintFollowsTheText()
 {
+    SKIP_WITHOUT_A_PICTURE_OF_THE_SCREEN();
     QFETCH(bool, silent);
     TextEditWithPlaceholder& edit = m_form->edit;
     edit.setPlaceholderText(hint + QLatin1Char('\n') + hint);
@@ -367,6 +370,7 @@ void tst_TextEditWithPlaceholder::hintFollowsTheText()
 
 void tst_TextEditWithPlaceholder::newHintIsShownAtOnce()
 {
+    SKIP_WITHOUT_A_PICTURE_OF_THE_SCREEN();
     TextEditWithPlaceholder& edit = m_form->edit;
     QTRY_VERIFY(m_form->isUpToDate());
     const PaintCounter editor(edit);
@@ -383,6 +387,7 @@ void tst_TextEditWithPlaceholder::newHintIsShownAtOnce()
 
 void tst_TextEditWithPlaceholder::sameHintPaintsNothing()
 {
+    SKIP_WITHOUT_A_PICTURE_OF_THE_SCREEN();
     TextEditWithPlaceholder& edit = m_form->edit;
     edit.setPlaceholderText(hint);
     QTRY_VERIFY(m_form->showsLine(0));
@@ -396,6 +401,7 @@ void tst_TextEditWithPlaceholder::sameHintPaintsNothing()
 
 void tst_TextEditWithPlaceholder::newHintBesideFocusOrTextPaintsNothing()
 {
+    SKIP_WITHOUT_A_PICTURE_OF_THE_SCREEN();
     TextEditWithPlaceholder& edit = m_form->edit;
     edit.setPlainText(QStringLiteral("text"));
     QTRY_VERIFY(m_form->showsLine(0));
@@ -416,6 +422,7 @@ void tst_TextEditWithPlaceholder::newHintBesideFocusOrTextPaintsNothing()
 
 void tst_TextEditWithPlaceholder::partialPaintingIsCompleted()
 {
+    SKIP_WITHOUT_A_PICTURE_OF_THE_SCREEN();
     TextEditWithPlaceholder& edit = m_form->edit;
     edit.setPlaceholderText(hint);
     QTRY_VERIFY(m_form->showsLine(0));

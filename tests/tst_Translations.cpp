@@ -42,6 +42,7 @@
 #include <QFile>
 #include <QGraphicsScene>
 #include <QGraphicsView>
+#include <QLocale>
 #include <QMetaProperty>
 #include <QPainter>
 #include <QtTest>
@@ -418,6 +419,8 @@ private:
 
 void tst_Translations::initTestCase()
 {
+    // Numbers are no texts; in digits that are not ASCII's they would look like some.
+    QLocale::setDefault(QLocale::c());
     QApplication::setStyle(QStringLiteral("fusion"));
 }
 

@@ -1,5 +1,7 @@
 #include <KQt/Ui/WidgetRenderer.h>
 
+#include "support/WindowSystem.h"
+
 #include <QtTest>
 
 #include <QMargins>
@@ -517,6 +519,9 @@ void tst_WidgetRenderer::changingTheFrameDrawsNothing()
 // What a picture has at each place, found pixel by pixel: the last widget in the list whose point comes to lie there.
 void tst_WidgetRenderer::composesRandomWidgets()
 {
+    const qreal scale = qApp->devicePixelRatio();
+    if (!qFuzzyCompare(scale, qRound(scale)))
+        QSKIP("at a broken scale no unit has pixels of its own to compare");
     QRandomGenerator random(4711);
     for (int round = 0; round < 40; ++round) {
         Stage stage(QPoint(random.bounded(60), random.bounded(60)));
@@ -800,6 +805,7 @@ void tst_WidgetRenderer::oneCauseDrawsOnce()
 // a change of its own.
 void tst_WidgetRenderer::masksDoNotDrawAgain()
 {
+    SKIP_ON_WAYLAND("windows are not where the application wants them here");
     Stage stage(QPoint(-50, -50));
     QVERIFY(QTest::qWaitForWindowExposed(&stage));
     Probe* outer = stage.addProbe(1, QRect(30, 20, 200, 100));
@@ -1095,6 +1101,7 @@ void tst_WidgetRenderer::hideLeavesAlthoughItThrows()
 
 void tst_WidgetRenderer::forgetsDeletedWidgets()
 {
+    SKIP_ON_WAYLAND("windows are not where the application wants them here");
     Stage stage;
     Probe* first = stage.addProbe(1, QRect(0, 0, 30, 20));
     auto second = std::make_unique<Probe>(2, &stage);

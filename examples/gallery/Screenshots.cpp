@@ -101,7 +101,8 @@ void Screenshots::writeWindow(QWidget& window)
 void Screenshots::checkStage(const Page& page, const QString& pageSlug)
 {
     QFrame& stage = *page.stageFrame();
-    const int border = stage.frameWidth();
+    // One more: where a unit is several pixels, the frame's line reaches into it.
+    const int border = stage.frameWidth() + 1;
     const QRect inside = stage.rect().adjusted(border, border, -border, -border);
     if (isOfOneColor(stage.grab(inside).toImage()))
         fail(QStringLiteral("the stage of %1 is empty").arg(pageSlug));

@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
+#include <QtMath>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 #include <QWindow>
@@ -39,7 +40,8 @@ inline QString elidedTo(const QComboBox& box, const QString& text, int width)
 /// The smallest width of @p box at which its text field is as wide as @p text.
 inline int widthThatFits(const QComboBox& box, const QString& text)
 {
-    return box.width() - editFieldOf(box).width() + QFontMetrics(box.font()).horizontalAdvance(text);
+    // Texts are elided by their exact widths, which are broken where glyphs are not fitted to pixels.
+    return box.width() - editFieldOf(box).width() + qCeil(QFontMetricsF(box.font()).horizontalAdvance(text));
 }
 
 /// A plain box that paints as the style paints a closed box whose text is @p text, in the state of another box.
