@@ -20,6 +20,9 @@ class AdvancedColorPickerPopupInterface;
 /// The colour is invalid until it is set. The popup, an AdvancedColorPickerPopup, is a window of its own that the
 /// picker owns. Choosing emits colorSelectionStarted(), then changedColor() for each change, then
 /// doneSelectionWithColor() when the popup hides.
+///
+/// Under Wayland the compositor has the last word on where the popup lies, and takes one that the program opens before
+/// the user has pressed anything for an ordinary window.
 class KQTUI_EXPORT AdvancedColorPicker : public QToolButton
 {
     Q_OBJECT

@@ -17,6 +17,9 @@ namespace Kestrel::Gui::Helpers {
 /// The flags are read anew at each call, so changes made by others are seen, and are written only where the state
 /// changes: writing a widget's flags re-creates and hides its window. Copies act on the same window. For derived
 /// classes only; nothing is owned.
+///
+/// The state is that of the flags. Whether the window does stay on top is up to the window system: Wayland's takes no
+/// notice of the hint.
 class KQTUI_EXPORT AlwaysOnTop
 {
 public:

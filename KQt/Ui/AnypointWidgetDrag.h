@@ -15,6 +15,9 @@ namespace Kestrel::Gui {
 /// The widget follows the cursor from the first pixel on. Once the cursor is 11 pixels away from the press in either
 /// direction the gesture is a drag: its release is consumed, so that it is no click as well. All other events pass.
 /// Mouse buttons are not told apart. A widget that has been deleted is not moved any more.
+///
+/// Wayland does not let applications place their windows: there a window stays where it is, whatever its pos() says.
+/// Widgets inside windows are moved as everywhere.
 class KQTUI_EXPORT AnypointWidgetDrag : public QObject
 {
     Q_OBJECT

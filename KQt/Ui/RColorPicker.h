@@ -13,6 +13,9 @@ class RColorPickerPopup;
 ///
 /// The colour is shown by a style sheet that selects the picker by its object name: give the picker a name, or it keeps
 /// the look of a plain button. While the popup is open the dynamic property "pressed" is true, for style sheets.
+///
+/// Under Wayland the compositor has the last word on where the popup lies, and takes one that the program opens before
+/// the user has pressed anything for an ordinary window.
 class KQTUI_EXPORT RColorPicker : public QPushButton
 {
     Q_OBJECT

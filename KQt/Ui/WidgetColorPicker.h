@@ -24,7 +24,8 @@ class HighlightFrame;
 /// closing. All of these sample the pixel under the cursor; only a cursor outside the target gives no colour.
 ///
 /// Where the window system gives no picture of the screen (Wayland), the colour is read from the target's own window
-/// rendered off screen, without anything that lies over it.
+/// rendered off screen, without anything that lies over it. The pointer is known there while it is over windows of the
+/// application, and QCursor::setPos() does not move it.
 ///
 /// Target, swallow widgets, and the picker itself may be deleted while picking: it then ends with an invalid colour,
 /// and cursor, frame and filter are gone.

@@ -44,6 +44,9 @@ namespace Kestrel::Gui {
 /// the screen; a widget's own frame is mapped by the widget. A tracked window at the screen's origin has all of them
 /// alike. The picture has the frame's size, in the tracked widget's device pixel ratio, black where nothing lies.
 ///
+/// Under Wayland an application does not learn where its windows are; all of them seem to lie at the origin. Widgets of
+/// one window are put together as they are seen, those of different windows are not.
+///
 /// The tracked widget is borrowed. When it is deleted the frame stays where it was. Widgets that are taken over when
 /// the renderer is deleted keep their masks. GUI thread only.
 class KQTUI_EXPORT WidgetRenderer : public QObject

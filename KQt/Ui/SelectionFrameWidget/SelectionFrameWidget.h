@@ -22,6 +22,9 @@ namespace Kestrel::Gui {
 /// In edit mode the mouse of the window below moves the frames: the window no longer sees presses, releases and double
 /// clicks, but still sees moves, enter, leave and hover events. Positions in the window count as positions in the view.
 ///
+/// Under Wayland, where applications do not place their windows, give the widget a parent in the window below: as a
+/// window of its own it cannot be laid over another one.
+///
 /// Frames may be deleted while they tell their handler something, the widget itself may not: use deleteLater() there.
 class KQTUI_EXPORT SelectionFrameWidget : public QGraphicsView
 {
