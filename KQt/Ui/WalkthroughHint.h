@@ -24,9 +24,8 @@ class HighlightFrame;
 /// page that lacks one, like a hint without a page, has an empty value:
 /// - "walkthroughName": the hint's name,
 /// - "walkthroughWidget": the name of the widgets that the hint points at,
-/// - "walkthroughAlignment": "left", "top", "right" or "bottom", where the hint stands beside them; with any other text
-/// it
-///   stands on their middle,
+/// - "walkthroughAlignment": "left", "top", "right" or "bottom", where the hint stands beside them; with any other
+///   text it stands on their middle. The sides are those of the screen, also where layouts run from right to left,
 /// - "walkthroughConditionList": the paths of the states that must be active before the hint shows.
 ///
 /// start() lays a HighlightFrame around the target widgets. At the frame's first report the hint becomes a child of the

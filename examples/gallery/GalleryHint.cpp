@@ -28,8 +28,8 @@ public:
     {
         setProperty("walkthroughName", description.name);
         setProperty("walkthroughWidget", description.target);
-        setProperty("walkthroughAlignment", description.alignment);
         setProperty("walkthroughConditionList", description.conditions);
+        alignToDirection();
 
         QFont font = m_title->font();
         font.setBold(true);
@@ -54,7 +54,24 @@ public:
         m_text->setText(QCoreApplication::translate(context, m_description.text));
     }
 
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutDirectionChange)
+            alignToDirection();
+        QWidget::changeEvent(event);
+    }
+
 private:
+    /// A hint's sides are those of the screen; the gallery is mirrored where texts run from right to left.
+    void alignToDirection()
+    {
+        QString side = m_description.alignment;
+        if (isRightToLeft() && side == QLatin1String("right"))
+            side = QStringLiteral("left");
+        setProperty("walkthroughAlignment", side);
+    }
+
     HintDescription m_description;
     QLabel* m_title;
     QLabel* m_text;
