@@ -7,6 +7,7 @@
 #include <QStackedWidget>
 #include <QStringList>
 #include <QVBoxLayout>
+#include <QVariant>
 #include <QVector>
 
 #include <functional>
