@@ -18,6 +18,7 @@
 #include <QPainterPath>
 #include <QPointF>
 #include <QRectF>
+#include <QScopeGuard>
 #include <QString>
 
 #include <algorithm>
@@ -147,6 +148,17 @@ private:
     void HandleDragging(const QPointF& scenePos);
     void HandleResizing(const QPointF& scenePos);
     void RestoreAspectRatio();
+    void EndInteraction();
+
+    /// Paints the item anew after the scope, unless a call of the handler deletes it there. One that throws leaves the
+    /// scope too.
+    auto UpdateAtEnd()
+    {
+        return qScopeGuard([this, life = WatchLife()] {
+            if (!life.expired())
+                this->update();
+        });
+    }
 
     void PlaceFrame(QRectF sceneFrame);
     void MoveOriginTo(const QPointF& scenePos);
@@ -376,6 +388,11 @@ void SelectionFrameGraphicsItem<T>::mousePressEvent(QGraphicsSceneMouseEvent* ev
     if (life.expired())
         return;
     const FrameSides zone = FrameSideForMousePosition(scenePos);
+    // A press whose handler throws has not happened: the moves that follow have nothing to start from.
+    auto undo = qScopeGuard([this, life] {
+        if (!life.expired())
+            EndInteraction();
+    });
     if (zone == Inside) {
         m_dragging = true;
         m_resizing = false;
@@ -392,6 +409,7 @@ void SelectionFrameGraphicsItem<T>::mousePressEvent(QGraphicsSceneMouseEvent* ev
     }
     this->update();
     m_eventHandler->InteractionStateChanged();
+    undo.dismiss();
 }
 
 template <typename T>
@@ -411,24 +429,28 @@ void SelectionFrameGraphicsItem<T>::mouseMoveEvent(QGraphicsSceneMouseEvent* eve
 template <typename T>
 void SelectionFrameGraphicsItem<T>::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton) {
-        const LifeWatch life = WatchLife();
-        // Not the scene position: the cursor after a release is chosen by where the mouse is on the item.
-        const QPointF itemPos = event->pos();
-        m_dragging = false;
-        m_resizing = false;
-        m_currentSide = None;
-        m_eventHandler->SetCursor(Qt::OpenHandCursor);
-        if (life.expired())
-            return;
-        setCursorForMousePosition(itemPos);
-        if (life.expired())
-            return;
-        m_eventHandler->InteractionStateChanged();
-        if (life.expired())
-            return;
-    }
-    this->update();
+    const LifeWatch life = WatchLife();
+    const auto repaint = UpdateAtEnd();
+    if (event->button() != Qt::LeftButton)
+        return;
+    // Not the scene position: the cursor after a release is chosen by where the mouse is on the item.
+    const QPointF itemPos = event->pos();
+    EndInteraction();
+    m_eventHandler->SetCursor(Qt::OpenHandCursor);
+    if (life.expired())
+        return;
+    setCursorForMousePosition(itemPos);
+    if (life.expired())
+        return;
+    m_eventHandler->InteractionStateChanged();
+}
+
+template <typename T>
+void SelectionFrameGraphicsItem<T>::EndInteraction()
+{
+    m_dragging = false;
+    m_resizing = false;
+    m_currentSide = None;
 }
 
 template <typename T>
@@ -524,22 +546,19 @@ void SelectionFrameGraphicsItem<T>::HandleHover(QGraphicsSceneHoverEvent* event)
             HandleLeave();
         return;
     }
-    const LifeWatch life = WatchLife();
-    const bool entered = !m_hovered;
+    auto repaint = UpdateAtEnd();
+    if (m_hovered)
+        repaint.dismiss();
     m_hovered = true;
     setCursorForMousePosition(event->scenePos());
-    if (entered && !life.expired())
-        this->update();
 }
 
 template <typename T>
 void SelectionFrameGraphicsItem<T>::HandleLeave()
 {
-    const LifeWatch life = WatchLife();
+    const auto repaint = UpdateAtEnd();
     m_hovered = false;
     m_eventHandler->SetCursor(Qt::ArrowCursor);
-    if (!life.expired())
-        this->update();
 }
 
 template <typename T>

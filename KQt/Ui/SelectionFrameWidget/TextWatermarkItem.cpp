@@ -4,6 +4,7 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <QPen>
+#include <QScopeGuard>
 #include <QTextCharFormat>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -162,17 +163,19 @@ void TextWatermarkItem::PaintText(QPainter* painter, const QStyleOptionGraphicsI
     painter->setClipRect(Detail::alignedRect(GetPaintingRect()));
     painter->setClipping(true);
     const QTransform savedTransform = painter->transform();
+    // Objects that the application has put into the text paint themselves, and may throw.
+    const auto restore = qScopeGuard([&] {
+        painter->setTransform(savedTransform);
+        painter->setClipping(false);
+        if (!savedClip.isEmpty())
+            painter->setClipRegion(savedClip);
+        painter->setBrush(savedBrush);
+        painter->setFont(savedFont);
+    });
 
     painter->translate(0, CaptionAllowance);
     // The text alone, without the frame. NOLINTNEXTLINE(bugprone-parent-virtual-call)
     QGraphicsTextItem::paint(painter, option, widget); // clazy:exclude=skipped-base-method
-
-    painter->setTransform(savedTransform);
-    painter->setClipping(false);
-    if (!savedClip.isEmpty())
-        painter->setClipRegion(savedClip);
-    painter->setBrush(savedBrush);
-    painter->setFont(savedFont);
 }
 
 } // namespace Kestrel::Gui
