@@ -31,12 +31,14 @@ bool drawsWholePixels(const QPainter& painter)
 
 SeparatorDelegate::SeparatorDelegate(QWidget* parent)
     : QStyledItemDelegate(parent)
-    , m_style(new SeparatorStyle(parent))
 {
+    // Not the parent's alone before the application's style, which may throw, is through with it.
+    auto look = std::make_unique<SeparatorStyle>(parent);
     // The widget is never shown, and only polishing makes a style sheet set its properties.
-    m_style->style()->polish(m_style.data());
-    m_style->style()->unpolish(m_style.data());
-    m_style->hide();
+    look->style()->polish(look.get());
+    look->style()->unpolish(look.get());
+    look->hide();
+    m_style = look.release();
 }
 
 SeparatorDelegate::~SeparatorDelegate()
