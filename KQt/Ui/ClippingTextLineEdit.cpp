@@ -53,10 +53,22 @@ void ClippingTextLineEdit::focusOutEvent(QFocusEvent* event)
     m_editing = false;
     if (text() != m_originalText) {
         m_originalText = text();
-        Q_EMIT OriginalTextChanged(m_originalText);
+        try {
+            Q_EMIT OriginalTextChanged(m_originalText);
+        } catch (...) {
+            // The focus has left all the same.
+            if (self)
+                showWithoutFocus(event);
+            throw;
+        }
         if (!self)
             return;
     }
+    showWithoutFocus(event);
+}
+
+void ClippingTextLineEdit::showWithoutFocus(QFocusEvent* event)
+{
     updateViewText();
     QLineEdit::focusOutEvent(event);
 }

@@ -37,6 +37,7 @@ protected:
 private:
     void updateViewText();
     void showViewText();
+    void showWithoutFocus(QFocusEvent* event);
 
     QString m_originalText; // with directional marks, unless typed
     QString m_viewText;

@@ -2,6 +2,7 @@
 
 #include <QLinearGradient>
 #include <QPainter>
+#include <QScopeGuard>
 #include <QStyleOptionSlider>
 
 CustomSliderWithZeroTick::CustomSliderWithZeroTick(QWidget* parent)
@@ -141,8 +142,8 @@ void CustomSliderWithZeroTick::writeStyleSheetBack(const QString& styleSheet)
     // setUpdatesEnabled(), which asks for a repaint of its own.
     const bool updatesWereDisabled = testAttribute(Qt::WA_UpdatesDisabled);
     setAttribute(Qt::WA_UpdatesDisabled);
+    const auto allowed = qScopeGuard([&] { setAttribute(Qt::WA_UpdatesDisabled, updatesWereDisabled); });
     setStyleSheet(styleSheet);
-    setAttribute(Qt::WA_UpdatesDisabled, updatesWereDisabled);
 }
 
 void CustomSliderWithZeroTick::paintTick(QPainter& painter) const
