@@ -4,6 +4,7 @@
 
 #include "support/DragWatcher.h"
 #include "support/MouseEvents.h"
+#include "support/Thrown.h"
 
 #include <QtTest>
 
@@ -39,6 +40,7 @@ private Q_SLOTS:
     void otherWidgetsAreLeftAlone();
     void swatchMayDieInTheDrag();
     void filterMayDieInTheDrag();
+    void exceptionEndsTheDrag();
 
 private:
     void press(const QPoint& position, Qt::MouseButton button = Qt::LeftButton)
@@ -234,6 +236,27 @@ void tst_PickerButtonDragFilter::filterMayDieInTheDrag()
     QVERIFY(!m_filter);
     QTRY_VERIFY(!watcher.drag);
     m_swatch = std::make_unique<PickerButton>(Qt::red);
+}
+
+// Qt refuses a drag while there is another.
+void tst_PickerButtonDragFilter::exceptionEndsTheDrag()
+{
+    SKIP_WHERE_DRAGS_END_AT_ONCE;
+    const QPoint far(0, QApplication::startDragDistance());
+    press(QPoint());
+    {
+        DragWatcher watcher(m_filter.get(), [] { throw TestSupport::Thrown(); });
+        QVERIFY(TestSupport::isThrownBy([&] { move(far); }));
+        QVERIFY(!watcher.drag);
+    }
+    QVERIFY(!QGuiApplication::overrideCursor());
+    release(far);
+
+    press(QPoint());
+    DragWatcher watcher(m_filter.get());
+    move(far);
+    QCOMPARE(watcher.drags(), 1);
+    QCOMPARE(watcher.color, QColor(12, 34, 56));
 }
 
 QTEST_MAIN(tst_PickerButtonDragFilter)

@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QPointer>
+#include <QScopeGuard>
 
 namespace Kestrel::Gui {
 
@@ -82,7 +83,13 @@ void PickerButtonDragFilter::runDrag(PickerButton* swatch)
         drag->setParent(nullptr);
         QDrag::cancel();
     });
+    // What the application throws into the drag's loop leaves the drag unfinished, and Qt would refuse every later one.
+    auto abandon = qScopeGuard([abandoned = QPointer<QDrag>(drag)] {
+        QDrag::cancel();
+        delete abandoned;
+    });
     drag->exec(Qt::CopyAction);
+    abandon.dismiss();
     disconnect(guard);
 }
 
