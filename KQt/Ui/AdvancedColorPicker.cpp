@@ -11,6 +11,32 @@
 
 namespace Kestrel::Gui {
 
+namespace {
+
+/// Counts one of the calls that run in its scope, which a slot may leave by an exception or delete the picker in.
+class CountedCall
+{
+public:
+    CountedCall(QObject* owner, int& calls)
+        : m_owner(owner)
+        , m_calls(calls)
+    {
+        ++m_calls;
+    }
+    ~CountedCall()
+    {
+        if (m_owner)
+            --m_calls;
+    }
+    Q_DISABLE_COPY_MOVE(CountedCall)
+
+private:
+    QPointer<QObject> m_owner;
+    int& m_calls;
+};
+
+} // namespace
+
 AdvancedColorPicker::AdvancedColorPicker(QWidget* parent)
     : QToolButton(parent)
     , m_popup(std::make_unique<AdvancedColorPickerPopup>())
@@ -72,12 +98,9 @@ void AdvancedColorPicker::showPopup(const QPoint& p)
 
 void AdvancedColorPicker::colorChanged(const QColor& c)
 {
-    const QPointer<AdvancedColorPicker> self(this);
-    ++m_popupCalls;
+    const CountedCall answering(this, m_popupCalls);
     setColor(c);
     Q_EMIT changedColor(c);
-    if (self)
-        --m_popupCalls;
 }
 
 void AdvancedColorPicker::paintEvent(QPaintEvent*) // clazy:exclude=skipped-base-method
@@ -98,12 +121,9 @@ void AdvancedColorPicker::hideEvent(QHideEvent* event)
 
 void AdvancedColorPicker::finishSelection(const QColor& c)
 {
-    const QPointer<AdvancedColorPicker> self(this);
-    ++m_popupCalls;
+    const CountedCall answering(this, m_popupCalls);
     setColor(c);
     Q_EMIT doneSelectionWithColor(c);
-    if (self)
-        --m_popupCalls;
 }
 
 /// Whether there is still a popup to open: a slot of colorSelectionStarted() may delete the picker.

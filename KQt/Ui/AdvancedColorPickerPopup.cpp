@@ -4,6 +4,7 @@
 #include <KQt/Ui/AdvancedColorPalette.h>
 #include <KQt/Ui/AdvancedColorPickerPopupForm.h>
 #include <KQt/Ui/FixedSizeItem.h>
+#include <KQt/Ui/InterruptedCalls.h>
 #include <KQt/Ui/PickerButton.h>
 #include <KQt/Ui/PickerButtonDragFilter.h>
 #include <KQt/Ui/PickerButtonDropFilter.h>
@@ -96,8 +97,8 @@ QColor AdvancedColorPickerPopup::color() const
 void AdvancedColorPickerPopup::setColor(const QColor& c)
 {
     const QSignalBlocker silent(this);
-    // A checked slot takes the colour, and with it all slots of this popup are stored: a popup that has not been open for
-    // a while must not store what its slots showed before others changed them.
+    // A checked slot takes the colour, and with it all slots of this popup are stored: a popup that has not been open
+    // for a while must not store what its slots showed before others changed them.
     if (!isVisible())
         showUserGeneratedColors();
     m_color = c;
@@ -125,7 +126,13 @@ void AdvancedColorPickerPopup::showEvent(QShowEvent* event)
 void AdvancedColorPickerPopup::hideEvent(QHideEvent* event)
 {
     const QPointer<AdvancedColorPickerPopup> self(this);
-    Q_EMIT hidedWithColor(m_color);
+    try {
+        Q_EMIT hidedWithColor(m_color);
+    } catch (...) {
+        if (self)
+            Detail::forgetClosing(*self);
+        throw;
+    }
     if (self)
         QFrame::hideEvent(event);
 }

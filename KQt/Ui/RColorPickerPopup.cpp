@@ -2,6 +2,7 @@
 
 #include <KQt/Ui/Accessibility/InstallAccessibility.h>
 #include <KQt/Ui/Accessibility/RColorPickerPopupKeyboard.h>
+#include <KQt/Ui/InterruptedCalls.h>
 #include <KQt/Ui/NamedPalette.h>
 #include <KQt/Ui/RColorPickerPopupLayout.h>
 
@@ -197,7 +198,14 @@ void RColorPickerPopup::choose(const QColor& color)
 {
     const QPointer<RColorPickerPopup> self(this);
     m_hoverColor = color;
-    Q_EMIT selected(m_hoverColor);
+    try {
+        Q_EMIT selected(m_hoverColor);
+    } catch (...) {
+        // Chosen all the same: an open popup would keep the mouse to itself.
+        if (self)
+            close();
+        throw;
+    }
     if (self)
         close();
 }
@@ -216,7 +224,7 @@ void RColorPickerPopup::chooseInDialog()
     dialog->setCurrentColor(m_hoverColor);
     hideSpinBoxButtons(*dialog);
     styleDialogButtons(*dialog);
-    const bool accepted = dialog->exec() == QDialog::Accepted;
+    const bool accepted = Detail::execDialog(dialog) == QDialog::Accepted;
     const QColor color = dialog ? dialog->currentColor() : QColor();
     const bool dialogSurvived = !dialog.isNull();
     delete dialog.data();
@@ -283,7 +291,13 @@ void RColorPickerPopup::paintHoveredCells(QPainter& painter, const QPointF& hove
 void RColorPickerPopup::hideEvent(QHideEvent* event)
 {
     const QPointer<RColorPickerPopup> self(this);
-    Q_EMIT closed();
+    try {
+        Q_EMIT closed();
+    } catch (...) {
+        if (self)
+            Detail::forgetClosing(*self);
+        throw;
+    }
     if (self)
         QFrame::hideEvent(event);
 }

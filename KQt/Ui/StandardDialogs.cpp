@@ -2,6 +2,7 @@
 
 #include <KQt/Ui/DialogOptions.h>
 #include <KQt/Ui/FileDialogParentGuard.h>
+#include <KQt/Ui/InterruptedCalls.h>
 #include <KQt/Ui/Platforms/NativeFileDialog.h>
 
 #include <Basalt/IoPath.h>
@@ -81,7 +82,7 @@ void StandardDialogs::showWarning(QWidget* parent, QString title, QString text)
     // On the heap: a parent that goes while the box is open takes it along.
     const QPointer<QMessageBox> box = new QMessageBox(QMessageBox::Information, title, text, QMessageBox::Ok, parent,
                                                       Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
-    box->exec();
+    Detail::execDialog(box);
     delete box;
 }
 

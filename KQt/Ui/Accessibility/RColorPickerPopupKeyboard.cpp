@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QScopeGuard>
 
 #include <algorithm>
 
@@ -90,11 +91,13 @@ void RColorPickerPopupKeyboard::choose(int item)
     const QPoint middle = popupItemRect(item, m_popup->width()).center();
     QMouseEvent press(QEvent::MouseButtonPress, middle, m_popup->mapToGlobal(middle), Qt::LeftButton, Qt::LeftButton,
                       Qt::NoModifier);
-    const QPointer<RColorPickerPopupKeyboard> self(this); // a slot may delete the popup
     m_choosing = true;
+    // A slot may delete the popup, or throw.
+    const auto chosen = qScopeGuard([self = QPointer<RColorPickerPopupKeyboard>(this)] {
+        if (self)
+            self->m_choosing = false;
+    });
     QCoreApplication::sendEvent(m_popup, &press);
-    if (self)
-        m_choosing = false;
 }
 
 bool RColorPickerPopupKeyboard::eventFilter(QObject* watched, QEvent* event)
