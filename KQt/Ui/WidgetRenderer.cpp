@@ -1,6 +1,7 @@
 #include <KQt/Ui/WidgetRenderer.h>
 
 #include <KQt/Ui/Check.h>
+#include <KQt/Ui/InterruptedCalls.h>
 
 #include <QApplication>
 #include <QMoveEvent>
@@ -199,7 +200,8 @@ bool WidgetRenderer::IsTrackedWidget(QWidget* widget) const
 bool WidgetRenderer::IsInRendererBounds(QWidget* widget) const
 {
     CheckWidget(widget);
-    if (m_rendererRect.isNull())
+    // Turned inside out it could contain widgets, which can then not be drawn.
+    if (m_rendererRect.isEmpty())
         return false;
     return m_rendererRect.contains(MapRectToGlobal(*widget, widget->frameGeometry()));
 }
@@ -371,7 +373,7 @@ void WidgetRenderer::RenderWidget(QWidget* widget, const QRect& rect, QPixmap& p
 
     const QPointer<WidgetRenderer> self(this);
     const QPointer<QWidget> alive(widget);
-    widget->render(&picture, part.topLeft(), source, QWidget::IgnoreMask);
+    Detail::renderWidget(*widget, picture, part.topLeft(), source);
     if (!alive || !self || !IsStillThere(widget))
         return;
 
