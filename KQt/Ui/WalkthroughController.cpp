@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QEventTransition>
 #include <QScopedValueRollback>
+#include <QScopeGuard>
 #include <QStackedWidget>
 #include <QState>
 #include <QStringList>
@@ -168,6 +169,14 @@ void WalkthroughController::addHints(WalkthroughHint* prototype)
     const QStackedWidget* pages = prototype->stackedWidget();
     const int count = pages ? pages->count() : 0;
     QSet<WalkthroughHint*> hints;
+    // The prototype's virtual functions may throw: it stays the caller's then, and the hints made so far go.
+    auto undo = qScopeGuard([this, &hints] {
+        for (WalkthroughHint* hint : std::as_const(hints)) {
+            hint->disconnect(this);
+            unregister(hint);
+            delete hint;
+        }
+    });
     for (int page = 0; page < count; ++page) {
         if (auto* hint = makeHint(prototype, page))
             hints.insert(hint);
@@ -176,6 +185,7 @@ void WalkthroughController::addHints(WalkthroughHint* prototype)
         registerConditions(hint);
     for (WalkthroughHint* hint : std::as_const(hints))
         watchLifetime(hint);
+    undo.dismiss();
     prototype->deleteLater();
     if (isRunning())
         enterLateGroups();
@@ -183,21 +193,20 @@ void WalkthroughController::addHints(WalkthroughHint* prototype)
 
 WalkthroughHint* WalkthroughController::makeHint(WalkthroughHint* prototype, int page)
 {
-    WalkthroughHint* hint = prototype->clone();
+    std::unique_ptr<WalkthroughHint> hint(prototype->clone());
     if (!hint)
         return nullptr;
     if (QStackedWidget* pages = hint->stackedWidget())
         pages->setCurrentIndex(page);
-    if (!hint->stackedWidget() || !hint->contentWidget()) {
-        delete hint;
+    if (!hint->stackedWidget() || !hint->contentWidget())
         return nullptr;
-    }
     // Closing a hint while the application's windows are hidden must not end the application.
     hint->setAttribute(Qt::WA_QuitOnClose, false);
-    connect(hint, &WalkthroughHint::hintsDisabledForSession, this, &WalkthroughController::disableHintsForSession);
-    connect(hint, &WalkthroughHint::hintsDisabledForever, this, &WalkthroughController::disableHintsForever);
-    createStates(hint);
-    return hint;
+    connect(hint.get(), &WalkthroughHint::hintsDisabledForSession, this,
+            &WalkthroughController::disableHintsForSession);
+    connect(hint.get(), &WalkthroughHint::hintsDisabledForever, this, &WalkthroughController::disableHintsForever);
+    createStates(hint.get());
+    return hint.release();
 }
 
 void WalkthroughController::createStates(const WalkthroughHint* hint)
@@ -245,11 +254,16 @@ void WalkthroughController::watchLifetime(WalkthroughHint* hint)
     });
 }
 
-void WalkthroughController::forgetHint(WalkthroughHint* hint, const QString& name)
+void WalkthroughController::unregister(WalkthroughHint* hint)
 {
     removeValue(m_conditionHints, hint);
     removeValue(m_unmetThoughActive, hint);
     m_unmetConditions.remove(hint);
+}
+
+void WalkthroughController::forgetHint(WalkthroughHint* hint, const QString& name)
+{
+    unregister(hint);
     if (m_shownHints.remove(hint))
         gotoState(name, Finished);
 }
@@ -465,9 +479,20 @@ void WalkthroughController::hintClosed(QObject* object)
         return;
     const QPointer<WalkthroughController> self(this);
     const QString name = hint->hintName();
-    hint->finish();
-    if (!self)
-        return;
+    try {
+        hint->finish();
+    } catch (...) {
+        // Closed all the same.
+        if (self)
+            hintFinished(hint, name);
+        throw;
+    }
+    if (self)
+        hintFinished(hint, name);
+}
+
+void WalkthroughController::hintFinished(WalkthroughHint* hint, const QString& name)
+{
     gotoState(name, Finished);
     m_shownHints.remove(hint);
 }
@@ -547,7 +572,14 @@ void WalkthroughController::showOrHideHint(WalkthroughHint* hint)
             hint->setAvoidWidget(m_avoidWidget);
         QSet<QWidget*> targets(widgets.cbegin(), widgets.cend());
         targets.remove(nullptr);
-        hint->start(targets);
+        try {
+            hint->start(targets);
+        } catch (...) {
+            // Not shown, so that nothing would finish it: its frame must not show it later.
+            if (alive)
+                hint->abandonStart();
+            throw;
+        }
         if (!self || !alive)
             return;
         m_shownHints.insert(hint);
@@ -702,6 +734,7 @@ void WalkthroughController::enterLateGroups()
     if (targets.isEmpty() || !active.contains(m_rootState))
         return;
 
+    const auto endOfSilence = qScopeGuard([this] { m_silence.clear(); }); // also where a slot of a new state throws
     QSet<QAbstractState*> innermost = active;
     for (QAbstractState* state : active) {
         m_silence.emplace_back(state);

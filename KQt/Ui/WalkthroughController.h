@@ -144,7 +144,9 @@ private:
     void createStates(const WalkthroughHint* hint);
     void registerConditions(WalkthroughHint* hint);
     void watchLifetime(WalkthroughHint* hint);
+    void unregister(WalkthroughHint* hint);
     void forgetHint(WalkthroughHint* hint, const QString& name);
+    void hintFinished(WalkthroughHint* hint, const QString& name);
     void showOrHideHint(WalkthroughHint* hint);
     void countConditionsAnew();
 

@@ -3,10 +3,12 @@
 #include <KQt/Ui/Accessibility/Announcements.h>
 #include <KQt/Ui/Accessibility/InstallAccessibility.h>
 #include <KQt/Ui/HighlightFrame.h>
+#include <KQt/Ui/InterruptedCalls.h>
 
 #include <QEvent>
 #include <QPointer>
 #include <QRegion>
+#include <QScopeGuard>
 #include <QStackedWidget>
 #include <QVariant>
 
@@ -221,6 +223,11 @@ void WalkthroughHint::releaseFrame()
         std::exchange(m_frame, nullptr)->deleteLater();
 }
 
+void WalkthroughHint::abandonStart()
+{
+    releaseFrame();
+}
+
 void WalkthroughHint::finish()
 {
     if (m_isAnnouncing)
@@ -234,11 +241,22 @@ void WalkthroughHint::finish()
     ++m_finishCount;
     releaseFrame();
     m_isAnnouncing = true;
-    announceUsersChoice();
-    if (!self)
-        return;
-    m_isAnnouncing = false;
-    m_running = false;
+    const auto announced = qScopeGuard([self] {
+        if (!self)
+            return;
+        self->m_isAnnouncing = false;
+        self->m_running = false;
+    });
+    try {
+        announceUsersChoice();
+    } catch (...) {
+        // Where this answers the Close event, what would hide the hint after it is passed over now.
+        if (self) {
+            Detail::forgetClosing(*self);
+            hide();
+        }
+        throw;
+    }
 }
 
 void WalkthroughHint::announceUsersChoice()

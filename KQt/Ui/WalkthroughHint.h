@@ -118,9 +118,12 @@ private Q_SLOTS:
     void avoidGeometryChanged();
 
 private:
+    friend class WalkthroughController;
+
     int offsetBetweenWidgetsAndHint() const;
     bool isAvoiding() const;
     void moveIntoWindowOfFrame();
+    void abandonStart();
     void releaseFrame();
     void removeOtherPages();
     void announceUsersChoice();
