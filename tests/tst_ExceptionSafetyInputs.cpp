@@ -6,6 +6,7 @@
 
 #include "support/Thrown.h"
 
+#include <QAbstractItemView>
 #include <QFocusEvent>
 #include <QProxyStyle>
 #include <QSignalSpy>

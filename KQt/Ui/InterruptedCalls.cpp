@@ -11,11 +11,6 @@
 #include <memory>
 #include <utility>
 
-QT_BEGIN_NAMESPACE
-// Declared as a friend in QWidget's header, where nobody else can see it.
-Q_WIDGETS_EXPORT QWidgetData* qt_qwidget_data(QWidget* widget);
-QT_END_NAMESPACE
-
 namespace Kestrel::Gui::Detail {
 
 namespace {
@@ -46,6 +41,7 @@ void forgetPainting(QWidget& widget)
 
 void forgetClosing(QWidget& widget)
 {
+    // A friend that QWidget declares; only calls with a widget find it.
     qt_qwidget_data(&widget)->is_closing = 0;
 }
 
