@@ -22,7 +22,7 @@ const QRect wholeScreen(0, 0, 700, 500);
 class Probe : public QWidget
 {
 public:
-    Probe(const QColor& color, QWidget* parent)
+    Probe(Qt::GlobalColor color, QWidget* parent)
         : QWidget(parent)
         , m_color(color)
     {
@@ -38,7 +38,7 @@ protected:
     }
 
 private:
-    QColor m_color;
+    Qt::GlobalColor m_color;
 };
 
 struct Stage
