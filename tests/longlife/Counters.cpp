@@ -92,12 +92,12 @@ Kinds widgetKinds(const QWidgetList& widgets)
 qint64 heapInUse()
 {
     const struct mallinfo2 info = mallinfo2();
-    return static_cast<qint64>(info.uordblks + info.hblkhd);
+    return static_cast<qint64>(info.uordblks) + static_cast<qint64>(info.hblkhd);
 }
 
 // Steady runs differ by this much: glibc keeps up to seven freed blocks of each size up to 1 KiB for the thread that
 // freed them, and counts them as in use; so does Qt with fonts and glyphs, until its timers drop them.
-constexpr qint64 HeapTolerance = 64 * 1024;
+constexpr qint64 HeapTolerance = 65536;
 // Windows that come and go leave something in Qt's own tables and in blocks that are larger than what was asked for: up
 // to 0.9 KiB a round were measured, while everything that can be counted exactly stayed the same.
 constexpr double HeapTolerancePerRound = 1024;

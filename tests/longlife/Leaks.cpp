@@ -5,7 +5,7 @@
 #include <QVector>
 #include <QWidget>
 
-#include <cstdlib>
+#include <memory>
 
 namespace {
 
@@ -21,6 +21,8 @@ struct Crowd
         for (int i = 0; i < size; ++i)
             members << new QObject;
     }
+    ~Crowd() { qDeleteAll(members); }
+    Q_DISABLE_COPY(Crowd)
 
     QObject* anyOther() { return members.at(next++ % members.size()); }
 };
@@ -43,9 +45,9 @@ std::function<void()> leakOf(const QString& kind)
          }},
         {QStringLiteral("memory"),
          [] {
-             constexpr std::size_t size = 64 * 1024;
+             constexpr int size = 65536;
              // Written to, so that the compiler does not leave it out.
-             *static_cast<volatile char*>(std::malloc(size)) = 1;
+             *static_cast<volatile char*>(new char[size]) = 1;
          }},
     };
     return leaks.value(kind);

@@ -18,7 +18,7 @@ public:
     QMainWindow& window() { return m_window; }
     /// All parts of a class, those inside of components too.
     template <typename Part>
-    QList<Part*> all() const
+    const QList<Part*> all() const
     {
         return m_window.findChildren<Part*>();
     }

@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr qint64 Minute = 60 * 1000; // milliseconds
+constexpr qint64 Minute = 60000; // milliseconds
 
 /// How long it runs: a number of rounds where there is one, a time otherwise.
 struct Span

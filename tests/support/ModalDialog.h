@@ -4,6 +4,7 @@
 #include <QDeadlineTimer>
 #include <QPointer>
 #include <QTimer>
+#include <QWidget>
 
 #include <functional>
 #include <utility>
