@@ -49,7 +49,8 @@ class WalkthroughHint;
 ///
 /// Widgets, hints and pages may be deleted at any time. A deleted target counts as hidden. A deleted hint, or one whose
 /// page was deleted, is given up; if it was being shown, its group enters "finished". Only from a slot that a state
-/// called (entered(), exited()) the controller itself must not be deleted; use deleteLater() there.
+/// called (entered(), exited()) the controller itself must not be deleted; use deleteLater() there. Nor may such a slot
+/// throw: Qt's machine would take itself for busy from then on. Whatever else throws leaves the walkthrough running.
 ///
 /// What is odd in the properties is not reported but has these effects:
 /// - A path without "/" names the state with an empty name of that group; an empty path both an empty group and state.
