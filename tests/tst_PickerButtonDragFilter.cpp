@@ -242,6 +242,9 @@ void tst_PickerButtonDragFilter::filterMayDieInTheDrag()
 void tst_PickerButtonDragFilter::exceptionEndsTheDrag()
 {
     SKIP_WHERE_DRAGS_END_AT_ONCE;
+#ifdef __SANITIZE_ADDRESS__
+    QSKIP("Qt loses the drag's loop when an exception passes");
+#endif
     const QPoint far(0, QApplication::startDragDistance());
     press(QPoint());
     {
