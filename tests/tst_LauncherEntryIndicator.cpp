@@ -538,6 +538,8 @@ void tst_LauncherEntryIndicator::noBusIsNoMatter()
     environment.remove(QStringLiteral("DISPLAY"));
     environment.remove(QStringLiteral("XDG_RUNTIME_DIR"));
     environment.remove(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"));
+    // Nor is there a window system without them.
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     if (!address.isEmpty())
         environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), address);
 
