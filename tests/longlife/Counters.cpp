@@ -98,8 +98,9 @@ qint64 heapInUse()
 // Steady runs differ by this much: glibc keeps up to seven freed blocks of each size up to 1 KiB for the thread that
 // freed them, and counts them as in use; so does Qt with fonts and glyphs, until its timers drop them.
 constexpr qint64 HeapTolerance = 65536;
-// Windows that come and go leave something in Qt's own tables and in blocks that are larger than what was asked for: up
-// to 0.9 KiB a round were measured, while everything that can be counted exactly stayed the same.
+// What glibc counts also has the unused ends of its blocks, of which there are more as the heap becomes fragmented:
+// about 94 bytes a round of a habit in which valgrind sees not a hundred bytes more after sixty rounds; with all habits
+// 0.8 KiB, less later on.
 constexpr double HeapTolerancePerRound = 1024;
 
 } // namespace
