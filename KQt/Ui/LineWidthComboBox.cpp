@@ -1,10 +1,9 @@
 #include <KQt/Ui/LineWidthComboBox.h>
 
-#include <KQt/Ui/Accessibility/InstallAccessibility.h>
+#include <KQt/Ui/LineList.h>
 #include <KQt/Ui/LineSample.h>
 #include <KQt/Ui/LineWidthDelegate.h>
 
-#include <QListView>
 #include <QPainter>
 
 namespace Kestrel::Gui {
@@ -12,11 +11,7 @@ namespace Kestrel::Gui {
 LineWidthComboBox::LineWidthComboBox(QWidget* parent)
     : QComboBox(parent)
 {
-    Detail::installAccessibility();
-    auto* view = new QListView;
-    view->setModel(model());
-    setView(view);
-    Detail::forgetAccessibleInterface(view);
+    Detail::installLineList(*this);
     setItemDelegate(new LineWidthDelegate(this));
 }
 
