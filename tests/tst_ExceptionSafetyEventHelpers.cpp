@@ -78,12 +78,32 @@ public:
     QStringList dropped;
 };
 
-/// Makes @p zone what Qt delivers the drag's further events to.
-void enterZone(QWidget& zone, const QMimeData& data)
+/// A widget that is dropped on, with an observer.
+class DropZone
 {
-    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&zone, &enter);
-}
+public:
+    Observer observer;
+
+    DropZone()
+    {
+        m_widget.setAcceptDrops(true);
+        m_widget.installEventFilter(&m_filter);
+        m_filter.InstallDragDropObserver(&observer);
+    }
+
+    void send(QDropEvent& event) { QCoreApplication::sendEvent(&m_widget, &event); }
+
+    /// Makes the widget what Qt delivers the drag's further events to.
+    void enter(const QMimeData& data)
+    {
+        QDragEnterEvent event(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        send(event);
+    }
+
+private:
+    QWidget m_widget;
+    DragDropEventFilter m_filter;
+};
 
 /// Throws as it moves.
 class Mover : public QWidget
@@ -227,48 +247,37 @@ void tst_ExceptionSafetyEventHelpers::dragDropObserver_data()
 void tst_ExceptionSafetyEventHelpers::dragDropObserver()
 {
     QFETCH(QEvent::Type, type);
-    Receiver zone;
-    DragDropEventFilter filter;
-    zone.setAcceptDrops(true);
-    zone.installEventFilter(&filter);
-    Observer observer;
-    filter.InstallDragDropObserver(&observer);
+    DropZone zone;
     QMimeData data;
     data.setUrls({QUrl(QStringLiteral("file:///one"))});
-    const auto send = [&](QDropEvent& event) { QCoreApplication::sendEvent(&zone, &event); };
     QDropEvent drop(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QDragMoveEvent move(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QDropEvent& event = type == QEvent::Drop ? drop : type == QEvent::DragMove ? move : static_cast<QDropEvent&>(enter);
-    enterZone(zone, data);
+    zone.enter(data);
     event.ignore();
 
-    (type == QEvent::Drop ? observer.onDropped : observer.onAsked).arm();
-    QVERIFY(isThrownBy([&] { send(event); }));
+    (type == QEvent::Drop ? zone.observer.onDropped : zone.observer.onAsked).arm();
+    QVERIFY(isThrownBy([&] { zone.send(event); }));
     QVERIFY(!event.isAccepted());
-    send(event);
+    zone.send(event);
     QVERIFY(event.isAccepted());
-    QCOMPARE(observer.dropped.size(), type == QEvent::Drop ? 1 : 0);
+    QCOMPARE(zone.observer.dropped.size(), type == QEvent::Drop ? 1 : 0);
 }
 
 // What was dropped before the one that throws has arrived; the rest is the next drop's.
 void tst_ExceptionSafetyEventHelpers::dropOfSeveral()
 {
-    Receiver zone;
-    DragDropEventFilter filter;
-    zone.setAcceptDrops(true);
-    zone.installEventFilter(&filter);
-    Observer observer;
-    filter.InstallDragDropObserver(&observer);
+    DropZone zone;
     QMimeData data;
     data.setUrls({QUrl(QStringLiteral("file:///one")), QUrl(QStringLiteral("file:///two"))});
     QDropEvent drop(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    enterZone(zone, data);
-    observer.onDropped.arm(1);
-    QVERIFY(isThrownBy([&] { QCoreApplication::sendEvent(&zone, &drop); }));
-    QCOMPARE(observer.dropped, {QStringLiteral("/one")});
-    QCoreApplication::sendEvent(&zone, &drop);
-    QCOMPARE(observer.dropped.mid(1), QStringList({QStringLiteral("/one"), QStringLiteral("/two")}));
+    zone.enter(data);
+    zone.observer.onDropped.arm(1);
+    QVERIFY(isThrownBy([&] { zone.send(drop); }));
+    QCOMPARE(zone.observer.dropped, {QStringLiteral("/one")});
+    zone.send(drop);
+    QCOMPARE(zone.observer.dropped.mid(1), QStringList({QStringLiteral("/one"), QStringLiteral("/two")}));
 }
 
 // The gesture goes on with the next move: the button is still down.
