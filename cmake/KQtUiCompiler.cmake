@@ -43,21 +43,3 @@ function(kqtui_strict target)
     QT_DEPRECATED_WARNINGS QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
     QT_NO_URL_CAST_FROM_STRING QT_STRICT_ITERATORS)
 endfunction()
-
-# Headers of others that most files read. Of the repository's own there is none: one that changes would have everything
-# compiled again.
-set(KQTUI_COMMON_HEADERS
-  <QApplication> <QBoxLayout> <QComboBox> <QGraphicsScene> <QGraphicsView> <QLabel> <QLineEdit> <QListView> <QMouseEvent>
-  <QPainter> <QPointer> <QPushButton> <QSlider> <QStyleOption> <QTimer> <QToolButton> <boost/exception/all.hpp> <functional>
-  <memory> <stdexcept>)
-
-# Precompiles the common headers and those given for a target with many files: reading them is half of its compilation. What a
-# file does not include itself it does not have in other builds, nor in the static analysis.
-function(kqtui_precompile_headers target)
-  if(KQTUI_PRECOMPILED_HEADERS AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    target_precompile_headers(${target} PRIVATE ${ARGN} ${KQTUI_COMMON_HEADERS})
-    # What ccache takes for the contents.
-    file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/CMakeFiles/${target}.dir/cmake_pch.hxx.gch.sum
-      "${ARGN} ${KQTUI_COMMON_HEADERS} ${CMAKE_CXX_COMPILER_VERSION} ${Qt5_VERSION} ${Boost_VERSION}\n")
-  endif()
-endfunction()
