@@ -13,7 +13,12 @@ if(KQTUI_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   # The path map below makes outputs independent of the folder; this lets ccache see that too. What a file includes is
   # taken from the compiler's own list, which saves preprocessing each file once more. The rest is what ccache asks
   # for where headers are precompiled: it then takes the checksum that lies beside such a header, since no two are alike.
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1
+  if(CMAKE_HOST_UNIX)
+    set(env env) # a tenth of the time of CMake's own
+  else()
+    set(env ${CMAKE_COMMAND} -E env)
+  endif()
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${env} CCACHE_BASEDIR=${PROJECT_SOURCE_DIR} CCACHE_NOHASHDIR=1
       CCACHE_DEPEND=1 CCACHE_PCH_EXTSUM=1 CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
       ${KQTUI_CCACHE})
 endif()
