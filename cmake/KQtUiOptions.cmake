@@ -12,7 +12,7 @@ option(KQTUI_BUILD_DESIGNER_PLUGIN "Build the plugin for Qt Designer, where Qt's
 option(KQTUI_BUILD_BENCHMARKS "Build the benchmarks (Google Benchmark)" OFF)
 option(KQTUI_BUILD_FUZZERS "Build the fuzzers (clang's libFuzzer)" OFF)
 option(KQTUI_DEBIAN_PACKAGES "cpack makes Debian packages; for an installation to /usr" OFF)
-option(KQTUI_PRECOMPILED_HEADERS "Precompile common headers (gcc)" OFF)
+option(KQTUI_PRECOMPILED_HEADERS "Precompile common headers (gcc, clang)" OFF)
 option(KQTUI_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 set(KQTUI_SANITIZE "" CACHE STRING "Sanitizers for every target, as the compiler spells them: address,undefined")
 

@@ -16,8 +16,12 @@ function(kqtui_add_precompiled_headers target)
   add_library(${target} OBJECT ${PROJECT_SOURCE_DIR}/cmake/precompiled-headers.cpp)
   set_target_properties(${target} PROPERTIES AUTOMOC OFF)
   target_precompile_headers(${target} PRIVATE ${ARGN} ${KQTUI_COMMON_HEADERS})
-  # What ccache takes for the contents.
-  file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/CMakeFiles/${target}.dir/cmake_pch.hxx.gch.sum
+  # What ccache takes for the contents; gcc and clang have their own names for such a file.
+  set(suffix gch)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    set(suffix pch)
+  endif()
+  file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/CMakeFiles/${target}.dir/cmake_pch.hxx.${suffix}.sum
     "${ARGN} ${KQTUI_COMMON_HEADERS} ${CMAKE_CXX_COMPILER_VERSION} ${Qt5_VERSION} ${Boost_VERSION}\n")
 endfunction()
 
@@ -28,7 +32,7 @@ function(kqtui_use_precompiled_headers target headers)
   endif()
 endfunction()
 
-if(KQTUI_PRECOMPILED_HEADERS AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+if(KQTUI_PRECOMPILED_HEADERS AND CMAKE_CXX_COMPILER_ID MATCHES "^(GNU|Clang)$")
   # For the library and what is built with the same settings.
   kqtui_add_precompiled_headers(kqtui-common-headers)
   kqtui_strict(kqtui-common-headers)
