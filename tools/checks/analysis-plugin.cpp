@@ -6,6 +6,9 @@
 // What clang-tidy's matchers walk over are the repository's own declarations alone, not those of Qt and the standard library,
 // of which every file brings a hundred times as many. Nothing could be reported there anyway. KQTUI_OWN_FOLDER is the folder
 // that counts.
+//
+// With KQTUI_OWN_BODIES the bodies of others' functions are not even read, but for those that the compiler needs to go on: a
+// third less of the time. The analyzer then takes what such a function does as unknown.
 #include <clang/AST/ASTConsumer.h>
 #include <clang/AST/ASTContext.h>
 #include <clang/AST/Decl.h>
@@ -24,6 +27,13 @@
 
 namespace {
 
+/// Whether something stands in the repository, and not in a header of others.
+bool isOwn(const clang::Decl* declaration, const clang::SourceManager& sources, const char* folder)
+{
+    const auto place = sources.getExpansionLoc(declaration->getLocation());
+    return place.isValid() && !sources.isInSystemHeader(place) && sources.getFilename(place).startswith(folder);
+}
+
 class OwnDeclarations : public clang::ASTConsumer
 {
 public:
@@ -31,6 +41,12 @@ public:
     {
         m_all.insert(m_all.end(), group.begin(), group.end());
         return true;
+    }
+
+    bool shouldSkipFunctionBody(clang::Decl* function) override
+    {
+        const char* folder = std::getenv("KQTUI_OWN_FOLDER");
+        return folder && !isOwn(function, function->getASTContext().getSourceManager(), folder);
     }
 
     void HandleTranslationUnit(clang::ASTContext& context) override
@@ -41,8 +57,7 @@ public:
         const clang::SourceManager& sources = context.getSourceManager();
         std::vector<clang::Decl*> own;
         for (clang::Decl* declaration : m_all) {
-            const auto place = sources.getExpansionLoc(declaration->getLocation());
-            if (place.isValid() && !sources.isInSystemHeader(place) && sources.getFilename(place).startswith(folder))
+            if (isOwn(declaration, sources, folder))
                 own.push_back(declaration);
         }
         context.setTraversalScope(own);
@@ -89,6 +104,7 @@ class Action : public clang::PluginASTAction
 protected:
     std::unique_ptr<clang::ASTConsumer> CreateASTConsumer(clang::CompilerInstance& compiler, llvm::StringRef file) override
     {
+        compiler.getFrontendOpts().SkipFunctionBodies = std::getenv("KQTUI_OWN_BODIES") != nullptr;
         std::vector<std::unique_ptr<clang::ASTConsumer>> consumers;
         // clazy comes first: it wants to see Qt's declarations.
         if (const char* checks = std::getenv("KQTUI_CLAZY_CHECKS")) {
