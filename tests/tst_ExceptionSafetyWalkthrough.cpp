@@ -120,11 +120,11 @@ void tst_ExceptionSafetyWalkthrough::highlightFrame_data()
 void tst_ExceptionSafetyWalkthrough::highlightFrame()
 {
     QFETCH(bool, geometry);
+    Fuse fuse; // the frame reports until the stage is gone
     Stage stage;
     stage.show();
     auto* frame = new HighlightFrame(stage.target);
     QVERIFY(QTest::qWaitFor([frame] { return frame->isVisible(); }));
-    Fuse fuse;
     if (geometry)
         connect(frame, &HighlightFrame::geometryChanged, this, [&fuse] { fuse(); });
     else

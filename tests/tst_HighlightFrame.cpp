@@ -298,11 +298,12 @@ void tst_HighlightFrame::firstReportsInOrder()
     const FrameRecorder recorder(frame);
     bool visibleAtGeometry = true;
     bool visibleAtShown = false;
-    connect(frame, &HighlightFrame::geometryChanged, this, [&](QRect geometry) {
+    const QObject listener; // no longer than what it writes to
+    connect(frame, &HighlightFrame::geometryChanged, &listener, [&](QRect geometry) {
         QCOMPARE(frame->geometry(), geometry);
         visibleAtGeometry = frame->isVisible();
     });
-    connect(frame, &HighlightFrame::visibilityChanged, this, [&] { visibleAtShown = frame->isVisible(); });
+    connect(frame, &HighlightFrame::visibilityChanged, &listener, [&] { visibleAtShown = frame->isVisible(); });
     QTRY_COMPARE(recorder.reports, QStringList({QStringLiteral("geometry"), QStringLiteral("shown")}));
     QCOMPARE(recorder.geometries, QList<QRect>({QRect(7, 7, 106, 36)}));
     QVERIFY(!visibleAtGeometry);
@@ -854,7 +855,7 @@ void tst_HighlightFrame::deletedInASlot()
     Victims v;
     QTRY_VERIFY(v.frame->isVisible());
     const QPointer<QWidget> doomed = v.named(victim);
-    connect(v.frame, &HighlightFrame::geometryChanged, this, [&v, &doomed] { v.deleteOnce(doomed); });
+    connect(v.frame, &HighlightFrame::geometryChanged, this, [&v, doomed] { v.deleteOnce(doomed); });
     // Sent and not caused: what Qt itself does after a move is no business of the frame.
     v.target->blockSignals(true);
     QMoveEvent move(QPoint(0, 0), QPoint(50, 0));
@@ -869,7 +870,7 @@ void tst_HighlightFrame::deletedInASlotWhileShowing()
     QFETCH(QString, victim);
     Victims v;
     const QPointer<QWidget> doomed = v.named(victim);
-    connect(v.frame, &HighlightFrame::visibilityChanged, this, [&v, &doomed] { v.deleteOnce(doomed); });
+    connect(v.frame, &HighlightFrame::visibilityChanged, this, [&v, doomed] { v.deleteOnce(doomed); });
     QTRY_VERIFY(doomed.isNull());
     QCoreApplication::processEvents();
 }
