@@ -33,7 +33,7 @@ if(MINGW AND CMAKE_CROSSCOMPILING)
   # Each program has a static Qt in it, which lld links in a tenth of the time. This gcc knows of one linker only.
   find_program(KQTUI_LLD ld.lld)
   if(KQTUI_LLD)
-    add_link_options(-fno-use-linker-plugin "SHELL:-wrapper ${PROJECT_SOURCE_DIR}/cmake/link-with-lld")
+    add_link_options(-fno-use-linker-plugin "SHELL:-wrapper '${PROJECT_SOURCE_DIR}/cmake/link-with-lld'")
   endif()
 endif()
 
