@@ -47,7 +47,8 @@ public:
     void setOpacityAdjustmentAvailable(bool b);
 
 Q_SIGNALS:
-    /// The user chose a swatch, typed a colour or changed the opacity.
+    /// The user chose a swatch, typed a colour or changed the opacity. A choice comes twice where another swatch was
+    /// checked before: once for each of the two that change, both times with the new colour.
     void changedColor(const QColor& color);
     /// The popup is hidden; @p color is the colour it ended with.
     void hidedWithColor(const QColor& color);

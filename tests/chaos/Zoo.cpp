@@ -91,6 +91,13 @@ QObject* Zoo::anyExhibit()
     return m_exhibits.empty() ? nullptr : m_chance.oneOf(m_exhibits).data();
 }
 
+std::vector<QPointer<QObject>> Zoo::exhibits()
+{
+    window();
+    forgetWhatIsGone();
+    return m_exhibits;
+}
+
 QWidget* Zoo::anyExhibitedWidget()
 {
     auto* widget = qobject_cast<QWidget*>(anyExhibit());

@@ -36,6 +36,8 @@ public:
     /// Something that was put on show: an application's own, which it may delete or move elsewhere.
     QObject* anyExhibit();
     QWidget* anyExhibitedWidget();
+    /// All that is on show.
+    std::vector<QPointer<QObject>> exhibits();
     /// Any widget at all, parts of components and open popups as well: what a mouse may be over.
     QWidget* anyWidget();
 

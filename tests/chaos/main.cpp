@@ -2,6 +2,7 @@
 #include "Actions.h"
 #include "Chance.h"
 #include "Contracts.h"
+#include "SignalExam.h"
 #include "Watchdog.h"
 #include "Zoo.h"
 
@@ -36,6 +37,7 @@ public:
             Zoo zoo(m_chance, m_contracts);
             for (int step = 0; step < steps; ++step)
                 take(step, zoo);
+            m_examined = examineSignals(zoo, m_contracts);
         }
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         checkTheEnd();
@@ -96,7 +98,8 @@ private:
         const auto breaches = m_contracts.breaches();
         for (const QString& breach : breaches)
             out << "BROKEN: " << breach << '\n';
-        out << Zoo::kinds() << " kinds of components, " << breaches.size() << " contracts broken" << Qt::endl;
+        out << Zoo::kinds() << " kinds of components, " << m_examined << " asked for their signals at the end, "
+            << breaches.size() << " contracts broken" << Qt::endl;
         return breaches.isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
     }
 
@@ -106,6 +109,7 @@ private:
     Watchdog m_watchdog;
     std::vector<Action> m_actions;
     int m_weight = 0;
+    int m_examined = 0;
     std::map<std::string, int> m_taken;
 };
 
