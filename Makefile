@@ -14,7 +14,7 @@ matrix: ## the tests at other scales, right to left, with other styles and local
 bench: ## every benchmark beside its peers; ARGS are handed to each
 	@tools/install-dependencies build test && tools/build release && tools/run-benchmarks build/release $(ARGS)
 chaos: ## 100,000 random things with every component, under the sanitizers; ARGS="--seed N" for others
-	@tools/install-dependencies build test checks && tools/build asan kqtui-chaos && QT_QPA_PLATFORM=offscreen build/asan/tests/chaos/kqtui-chaos $(ARGS)
+	@tools/install-dependencies build test checks && tools/build asan kqtui-chaos && QT_QPA_PLATFORM=offscreen LSAN_OPTIONS=suppressions=tests/support/lsan.supp:print_suppressions=0 build/asan/tests/chaos/kqtui-chaos $(ARGS)
 fuzz: ## every fuzzer for an hour or ten million inputs; ARGS are libFuzzer's
 	@tools/install-dependencies build checks && tools/build fuzz && tools/run-fuzzers build/fuzz -runs=10000000 -max_total_time=3600 $(ARGS)
 build-matrix: ## the library built by g++ and clang, in both standards, at every level, linked at last, shared and static
