@@ -72,6 +72,32 @@ void resizeFitting(benchmark::State& state)
 BENCHMARK_TEMPLATE(resizeFitting, Kestrel::Gui::ExtendedLabel)->Unit(benchmark::kMillisecond);
 BENCHMARK_TEMPLATE(resizeFitting, KSqueezedTextLabel)->Unit(benchmark::kMillisecond);
 
+/// One label, of which the text does not fit.
+void resizeOne(benchmark::State& state, const QString& text)
+{
+    Kestrel::Gui::ExtendedLabel label;
+    label.SetOriginalText(text);
+    label.show();
+    int width = 100;
+    for (auto _ : state) {
+        width = 300 - width;
+        label.resize(width, 20);
+    }
+}
+
+/// A megabyte costs what its first thousands of letters cost.
+void resizeMegabyte(benchmark::State& state)
+{
+    resizeOne(state, QStringLiteral("words ").repeated(512 * 1024 / 6));
+}
+BENCHMARK(resizeMegabyte)->Unit(benchmark::kMillisecond);
+
+void resizeTwoThousandLetters(benchmark::State& state)
+{
+    resizeOne(state, QStringLiteral("words ").repeated(2000 / 6));
+}
+BENCHMARK(resizeTwoThousandLetters)->Unit(benchmark::kMillisecond);
+
 } // namespace
 
 int main(int argc, char* argv[])

@@ -9,6 +9,7 @@
 #include <QFocusEvent>
 #include <QImage>
 
+#include <algorithm>
 #include <cstdint>
 
 using namespace Kestrel::Gui;
@@ -18,10 +19,26 @@ namespace {
 
 constexpr std::size_t LongestText = 4096;
 constexpr int LongestSide = 400;
+constexpr int Megabyte = 1024 * 1024 / static_cast<int>(sizeof(QChar)); // in UTF-16 units
 
 QString withoutMarks(QString text)
 {
     return text.remove(QChar(0x202a)).remove(QChar(0x202c));
+}
+
+bool hasFormatCharacters(const QString& text)
+{
+    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Format; });
+}
+
+// Now and then a megabyte. Not of what an elided text keeps and the label's own painting is slow with.
+QString anyLength(const QWidget& widget, const QString& text, FuzzedDataProvider& data)
+{
+    constexpr int oneIn = 16;
+    if (data.ConsumeIntegralInRange(1, oneIn) < oneIn || hasFormatCharacters(text) ||
+        widget.fontMetrics().horizontalAdvance(text) <= 0)
+        return text;
+    return text.repeated(Megabyte / text.size());
 }
 
 void paint(QWidget& widget)
@@ -36,7 +53,9 @@ void elideInLabel(FuzzedDataProvider& data)
     label.SetElideMode(static_cast<Qt::TextElideMode>(data.ConsumeIntegralInRange<int>(Qt::ElideLeft, Qt::ElideNone)));
     label.SetDynamicTooltip(data.ConsumeBool());
     label.SetClipText(data.ConsumeBool());
-    const QString text = Fuzz::anyText(data, LongestText);
+    QString text = Fuzz::anyText(data, LongestText);
+    if (label.GetClipText())
+        text = anyLength(label, text, data);
     label.SetOriginalText(text);
     require(label.GetOriginalText() == withoutMarks(text));
     label.resize(data.ConsumeIntegralInRange(0, LongestSide), 20);
@@ -47,7 +66,7 @@ void elideInLabel(FuzzedDataProvider& data)
 void elideInLineEdit(FuzzedDataProvider& data)
 {
     static ClippingTextLineEdit edit;
-    const QString text = Fuzz::anyText(data, LongestText);
+    const QString text = anyLength(edit, Fuzz::anyText(data, LongestText), data);
     edit.SetOriginalText(text);
     require(edit.GetOriginalText() == withoutMarks(text));
     edit.resize(data.ConsumeIntegralInRange(0, LongestSide), 20);

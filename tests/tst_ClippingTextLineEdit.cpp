@@ -76,6 +76,7 @@ private Q_SLOTS:
     void focusShowsTheWholeText();
     void baseClassSeesTheFocus();
     void leavingWithoutTypingEmitsNothing();
+    void textsBeyondTheMaximumStayWhole();
     void typingIsStoredWhenTheFocusLeaves();
     void longTypingIsElided();
     void typingBesideTheMarks_data();
@@ -227,6 +228,26 @@ void tst_ClippingTextLineEdit::leavingWithoutTypingEmitsNothing()
         QCOMPARE(m_form->edit.GetOriginalText(), text);
         QCOMPARE(changed.count(), 0);
     }
+}
+
+void tst_ClippingTextLineEdit::textsBeyondTheMaximumStayWhole()
+{
+    constexpr int maximum = 10;
+    QSignalSpy changed(&m_form->edit, &ClippingTextLineEdit::OriginalTextChanged);
+    m_form->edit.setMaxLength(maximum);
+    m_form->edit.SetOriginalText(longText);
+    m_form->enter();
+    QCOMPARE(m_form->edit.text(), marked(longText).left(maximum));
+    m_form->edit.resize(m_form->narrow() - 1, m_form->edit.height());
+    m_form->leave();
+    QCOMPARE(m_form->edit.GetOriginalText(), longText);
+    QCOMPARE(changed.count(), 0);
+
+    m_form->enter();
+    m_form->type(QStringLiteral("typed"));
+    m_form->leave();
+    QCOMPARE(m_form->edit.GetOriginalText(), QStringLiteral("typed"));
+    QCOMPARE(changed.count(), 1);
 }
 
 void tst_ClippingTextLineEdit::typingIsStoredWhenTheFocusLeaves()

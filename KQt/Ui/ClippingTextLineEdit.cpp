@@ -2,6 +2,7 @@
 
 #include <KQt/Ui/Accessibility/InstallAccessibility.h>
 #include <KQt/Ui/DirectionalText.h>
+#include <KQt/Ui/TextEliding.h>
 
 #include <QPointer>
 
@@ -29,13 +30,14 @@ void ClippingTextLineEdit::SetOriginalText(const QString& text)
 void ClippingTextLineEdit::updateViewText()
 {
     // The whole width, frame included: the ellipsis may lie under the frame's inner edge.
-    m_viewText = m_editing ? m_originalText : fontMetrics().elidedText(m_originalText, Qt::ElideRight, width());
+    m_viewText = m_editing ? m_originalText : Detail::elidedText(fontMetrics(), m_originalText, Qt::ElideRight, width());
     showViewText();
 }
 
 void ClippingTextLineEdit::showViewText()
 {
     setText(m_viewText);
+    m_keptText = text();
     setToolTip(m_viewText == m_originalText ? QString() : m_originalText);
     setCursorPosition(0);
 }
@@ -50,8 +52,9 @@ void ClippingTextLineEdit::focusInEvent(QFocusEvent* event)
 void ClippingTextLineEdit::focusOutEvent(QFocusEvent* event)
 {
     const QPointer<ClippingTextLineEdit> self(this); // a slot may delete the edit
+    const bool untouched = m_editing && text() == m_keptText;
     m_editing = false;
-    if (text() != m_originalText) {
+    if (!untouched && text() != m_originalText) {
         m_originalText = text();
         try {
             Q_EMIT OriginalTextChanged(m_originalText);

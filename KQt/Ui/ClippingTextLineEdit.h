@@ -12,6 +12,7 @@ namespace Kestrel::Gui {
 /// A text that the program sets is kept between directional marks (U+202A and U+202C), so that text of mixed direction
 /// keeps its order when it is elided; a text that the user typed is kept as typed. Typing becomes the original text
 /// when the focus leaves. A resize in between shows the original text again, and what was typed until then is lost.
+/// While it is edited, a text longer than maxLength() shows cut, and stays whole unless something is typed.
 class KQTUI_EXPORT ClippingTextLineEdit : public QLineEdit
 {
     Q_OBJECT
@@ -26,7 +27,7 @@ public:
     void SetOriginalText(const QString& text);
 
 Q_SIGNALS:
-    /// The focus left and the shown text was another than the original; carries the new original as it was typed.
+    /// The focus left and another text than the original was typed; carries the new original as it was typed.
     void OriginalTextChanged(QString text);
 
 protected:
@@ -41,6 +42,7 @@ private:
 
     QString m_originalText; // with directional marks, unless typed
     QString m_viewText;
+    QString m_keptText; // of the view text: no more than maxLength() and the input mask let the base class keep
     bool m_editing = false;
 };
 

@@ -1,5 +1,7 @@
 #include <KQt/Ui/ElidedComboBoxPainting.h>
 
+#include <KQt/Ui/TextEliding.h>
+
 #include <QComboBox>
 #include <QFontMetrics>
 #include <QStyleOptionComboBox>
@@ -15,7 +17,7 @@ QRect editField(const QComboBox& box, const QStyleOptionComboBox& option)
 QString paintElided(QStylePainter& painter, const QComboBox& box, QStyleOptionComboBox& option, int textWidth)
 {
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
-    option.currentText = QFontMetrics(box.font()).elidedText(option.currentText, Qt::ElideRight, textWidth);
+    option.currentText = elidedText(QFontMetrics(box.font()), option.currentText, Qt::ElideRight, textWidth);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
     return option.currentText;
 }

@@ -3,6 +3,7 @@
 #include <KQt/Ui/Accessibility/Announcements.h>
 #include <KQt/Ui/Accessibility/InstallAccessibility.h>
 #include <KQt/Ui/DirectionalText.h>
+#include <KQt/Ui/TextEliding.h>
 
 #include <QPointer>
 
@@ -92,17 +93,19 @@ QString ExtendedLabel::elidedText(int available)
     // reached, the metrics have the last word.
     if (available > wholeWidth())
         return m_originalText;
-    return m_measuredFont.elidedText(m_originalText, m_elideMode, available);
+    return Detail::elidedText(m_measuredFont, m_originalText, m_elideMode, available);
 }
 
 int ExtendedLabel::wholeWidth()
 {
-    constexpr QChar variantSeparator(0x9c); // metrics choose among such texts even where the longest fits
+    // Metrics choose among such texts even where the longest fits.
+    constexpr QChar variantSeparator(0x9c);
     const QFontMetrics metrics = fontMetrics();
     if (m_wholeWidth == notMeasured || m_measuredFont != metrics) {
         m_measuredFont = metrics;
-        m_wholeWidth = m_originalText.contains(variantSeparator) ? std::numeric_limits<int>::max()
-                                                                 : metrics.horizontalAdvance(m_originalText);
+        const bool leaveToMetrics =
+            m_originalText.size() > Detail::LongTextSize || m_originalText.contains(variantSeparator);
+        m_wholeWidth = leaveToMetrics ? std::numeric_limits<int>::max() : metrics.horizontalAdvance(m_originalText);
     }
     return m_wholeWidth;
 }
