@@ -6,6 +6,7 @@
 #include <QtTest>
 
 #include <iterator>
+#include <limits>
 
 using Kestrel::Gui::Detail::LongTextSize;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <Qt>
 
 QT_BEGIN_NAMESPACE
 class QFontMetrics;
