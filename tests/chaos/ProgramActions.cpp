@@ -13,6 +13,7 @@
 #include <KQt/Ui/TaskbarProgress.h>
 #include <KQt/Ui/WalkthroughController.h>
 #include <KQt/Ui/WidgetColorPickerButton.h>
+#include <KQt/Ui/WidgetRenderer.h>
 
 #include <QAbstractItemView>
 #include <QAbstractState>
@@ -20,6 +21,7 @@
 #include <QComboBox>
 #include <QMainWindow>
 #include <QMetaProperty>
+#include <QPlainTextEdit>
 
 #include <limits>
 
@@ -105,13 +107,22 @@ void enableOrDisable(Zoo& zoo, Chance& chance)
     zoo.anyExhibitedWidget()->setEnabled(!chance.oneIn(3));
 }
 
+// Lower than a line of theirs, Qt's own text edits show and hide their scroll bars for ever. A renderer of an area
+// without a size reports that by an exception, also to those who destroy what it has taken over.
+QSize leastSize(const QWidget& widget)
+{
+    if (qobject_cast<const QPlainTextEdit*>(&widget))
+        return widget.minimumSizeHint();
+    return widget.findChild<WidgetRenderer*>() ? QSize(1, 1) : QSize();
+}
+
 void moveOrResize(Zoo& zoo, Chance& chance)
 {
     QWidget* widget = zoo.anyExhibitedWidget();
     if (chance.oneIn(2))
         widget->move(chance.between(-50, 700), chance.between(-50, 500));
     else
-        widget->resize(chance.between(0, 400), chance.between(0, 300));
+        widget->resize(QSize(chance.between(0, 400), chance.between(0, 300)).expandedTo(leastSize(*widget)));
     zoo.window()->resize(800, 600);
 }
 
