@@ -4,10 +4,10 @@
 #include <KQt/Ui/PresetComboBox.h>
 #include <KQt/Ui/TextAlignPicker.h>
 
+#include "support/FocusEvents.h"
 #include "support/Thrown.h"
 
 #include <QAbstractItemView>
-#include <QFocusEvent>
 #include <QProxyStyle>
 #include <QSignalSpy>
 #include <QStandardItemModel>
@@ -20,6 +20,7 @@
 using namespace Kestrel::Gui;
 using TestSupport::Fuse;
 using TestSupport::isThrownBy;
+using TestSupport::sendFocus;
 
 namespace {
 
@@ -77,12 +78,6 @@ public:
 
     mutable Fuse onSize;
 };
-
-void sendFocus(QWidget& widget, QEvent::Type type)
-{
-    QFocusEvent event(type);
-    QCoreApplication::sendEvent(&widget, &event);
-}
 
 } // namespace
 

@@ -3,8 +3,8 @@
 #include <KQt/Ui/ExtendedLabel.h>
 
 #include "support/DirectionalMarks.h"
+#include "support/FocusEvents.h"
 
-#include <QFocusEvent>
 #include <QSignalSpy>
 
 #include <QtTest>
@@ -13,6 +13,7 @@ using Kestrel::Gui::AdvancedComboBox;
 using Kestrel::Gui::ClippingTextLineEdit;
 using Kestrel::Gui::ExtendedLabel;
 using TestSupport::marked;
+using TestSupport::sendFocus;
 
 namespace {
 
@@ -21,12 +22,6 @@ constexpr int Megabyte = 1024 * 1024 / static_cast<int>(sizeof(QChar)); // in UT
 QString repeated(const QString& text)
 {
     return text.repeated(Megabyte / text.size());
-}
-
-void sendFocus(QWidget& widget, QEvent::Type type)
-{
-    QFocusEvent event(type);
-    QCoreApplication::sendEvent(&widget, &event);
 }
 
 } // namespace

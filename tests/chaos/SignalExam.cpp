@@ -25,6 +25,7 @@
 #include <KQt/Ui/WidgetMouseHandler.h>
 #include <KQt/Ui/WidgetResizeHandler.h>
 
+#include <support/FocusEvents.h>
 #include <support/MouseEvents.h>
 
 #include <QAbstractButton>
@@ -96,12 +97,6 @@ void release(QWidget& widget)
 void pressKey(QWidget& widget, int key)
 {
     QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
-    QCoreApplication::sendEvent(&widget, &event);
-}
-
-void moveFocus(QWidget& widget, QEvent::Type type)
-{
-    QFocusEvent event(type);
     QCoreApplication::sendEvent(&widget, &event);
 }
 
@@ -196,16 +191,16 @@ void ask(ExtendedLabel& label, Contracts& contracts)
 
 void ask(ClippingTextLineEdit& edit, Contracts& contracts)
 {
-    moveFocus(edit, QEvent::FocusOut);
+    TestSupport::sendFocus(edit, QEvent::FocusOut);
     Promise text(contracts, &edit, &ClippingTextLineEdit::OriginalTextChanged);
     edit.SetOriginalText(QStringLiteral("another text"));
-    moveFocus(edit, QEvent::FocusIn);
-    moveFocus(edit, QEvent::FocusOut);
+    TestSupport::sendFocus(edit, QEvent::FocusIn);
+    TestSupport::sendFocus(edit, QEvent::FocusOut);
     text.expect(0, "a text was set, and the focus came and went");
-    moveFocus(edit, QEvent::FocusIn);
+    TestSupport::sendFocus(edit, QEvent::FocusIn);
     edit.setText(QStringLiteral("typed"));
     text.expect(0, "a text was typed");
-    moveFocus(edit, QEvent::FocusOut);
+    TestSupport::sendFocus(edit, QEvent::FocusOut);
     text.expectValue(QStringLiteral("typed"), "the focus left what was typed");
 }
 
