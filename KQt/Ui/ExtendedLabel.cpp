@@ -98,13 +98,11 @@ QString ExtendedLabel::elidedText(int available)
 
 int ExtendedLabel::wholeWidth()
 {
-    // Metrics choose among such texts even where the longest fits.
-    constexpr QChar variantSeparator(0x9c);
     const QFontMetrics metrics = fontMetrics();
     if (m_wholeWidth == notMeasured || m_measuredFont != metrics) {
         m_measuredFont = metrics;
-        const bool leaveToMetrics =
-            m_originalText.size() > Detail::LongTextSize || m_originalText.contains(variantSeparator);
+        // Metrics choose among variants even where the longest fits.
+        const bool leaveToMetrics = m_originalText.size() > Detail::LongTextSize || Detail::hasVariants(m_originalText);
         m_wholeWidth = leaveToMetrics ? std::numeric_limits<int>::max() : metrics.horizontalAdvance(m_originalText);
     }
     return m_wholeWidth;

@@ -27,10 +27,15 @@ QString withoutMiddle(const QString& text, int kept)
 
 } // namespace
 
+bool hasVariants(const QString& text)
+{
+    constexpr QChar separator(0x9c);
+    return text.contains(separator);
+}
+
 QString elidedText(const QFontMetrics& metrics, const QString& text, Qt::TextElideMode mode, int width)
 {
-    constexpr QChar variantSeparator(0x9c); // the metrics choose among such texts
-    if (text.size() <= LongTextSize || mode == Qt::ElideNone || text.contains(variantSeparator))
+    if (text.size() <= LongTextSize || mode == Qt::ElideNone || hasVariants(text))
         return metrics.elidedText(text, mode, width);
 
     // Where an end alone is twice too wide, what the metrics look at lies well inside of it.
