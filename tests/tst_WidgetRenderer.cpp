@@ -4,6 +4,7 @@
 
 #include <QtTest>
 
+#include <QDialog>
 #include <QMargins>
 #include <QPainter>
 #include <QProcess>
@@ -14,6 +15,7 @@
 #include <functional>
 #include <memory>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
 using Kestrel::Gui::WidgetRenderer;
@@ -79,6 +81,26 @@ public:
         return probe;
     }
 };
+
+/// A dialog that lies where a Stage does, and is more than a QDialog.
+class Dialog : public QDialog
+{
+public:
+    explicit Dialog(QWidget* parent = nullptr)
+        : QDialog(parent, Unmanaged)
+    {
+        setGeometry(40, 30, 100, 100);
+    }
+};
+
+/// Makes what is to be deleted, and the window that it has or is, in which widgets are to lie.
+using WindowMaker = std::function<std::pair<std::unique_ptr<QWidget>, QWidget*>()>;
+
+std::pair<std::unique_ptr<QWidget>, QWidget*> windowWithPlace(std::unique_ptr<QWidget> window)
+{
+    auto* place = window.get();
+    return {std::move(window), place};
+}
 
 void sendShow(QWidget* widget)
 {
@@ -176,6 +198,8 @@ const QRect AroundScreen(-200, -200, 600, 500);
 
 } // namespace
 
+Q_DECLARE_METATYPE(WindowMaker)
+
 class tst_WidgetRenderer : public QObject
 {
     Q_OBJECT
@@ -237,6 +261,10 @@ private Q_SLOTS:
 
     void forgetsDeletedWidgets();
     void forgetsDeletedWindow();
+    void deletedWindowPaintsNothingFromItsDestructor_data();
+    void deletedWindowPaintsNothingFromItsDestructor();
+    void deletedWindowThrowsNothing_data();
+    void deletedWindowThrowsNothing();
     void widgetMayDeleteItselfWhilePainted();
     void widgetMayDeleteOthersWhilePainted();
     void rendererMayBeDeletedWhilePainting();
@@ -1137,6 +1165,83 @@ void tst_WidgetRenderer::forgetsDeletedWindow()
     sendShow(stage.get());
     QVERIFY(!renderer.GetMaskImage().isNull());
     stage.reset();
+    QCoreApplication::processEvents();
+    QVERIFY(renderer.GetMaskImage().isNull());
+}
+
+void tst_WidgetRenderer::deletedWindowPaintsNothingFromItsDestructor_data()
+{
+    QTest::addColumn<WindowMaker>("make");
+    QTest::newRow("a plain window") << WindowMaker([] {
+        auto window = std::make_unique<QWidget>(nullptr, Unmanaged);
+        window->setGeometry(40, 30, 100, 100);
+        return windowWithPlace(std::move(window));
+    });
+    QTest::newRow("a window") << WindowMaker([] { return windowWithPlace(std::make_unique<Stage>()); });
+    QTest::newRow("a dialog") << WindowMaker([] { return windowWithPlace(std::make_unique<Dialog>()); });
+    QTest::newRow("a dialog of a window") << WindowMaker([] {
+        auto owner = std::make_unique<Stage>();
+        auto* dialog = new Dialog(owner.get());
+        return std::make_pair(std::unique_ptr<QWidget>(std::move(owner)), static_cast<QWidget*>(dialog));
+    });
+}
+
+// A window that is deleted while it is seen hides what lies in it, one by one, out of its destructor. What a paint
+// handler asks its window for is gone by then.
+void tst_WidgetRenderer::deletedWindowPaintsNothingFromItsDestructor()
+{
+    SKIP_ON_WAYLAND("windows are not where the application wants them here");
+    QFETCH(WindowMaker, make);
+    Stage stays;
+    Probe* survivor = stays.addProbe(1, QRect(0, 0, 30, 20));
+    auto [window, place] = make();
+    auto* first = new Probe(2, place);
+    first->setGeometry(0, 0, 10, 10);
+    auto* second = new Probe(3, place);
+    second->setGeometry(12, 0, 10, 10);
+    place->show();
+    QWidget tracked;
+    WidgetRenderer renderer(&tracked, nullptr);
+    renderer.ChangeRendererFrame(WholeScreen);
+    int paints = 0;
+    for (Probe* probe : {survivor, first, second}) {
+        probe->hide();
+        probe->show();
+        QVERIFY(isTakenOver(probe));
+        probe->whilePainting = [&paints] { ++paints; };
+    }
+    const QPoint both = stays.mapToGlobal(QPoint(3, 4));
+    QCOMPARE(pixel(renderer, both), Probe::colorAt(2, QPoint(3, 4)));
+
+    paints = 0;
+    window.reset();
+    QCOMPARE(paints, 0);
+    QTRY_COMPARE(pixel(renderer, both), Probe::colorAt(1, QPoint(3, 4)));
+    QVERIFY(paints > 0);
+}
+
+void tst_WidgetRenderer::deletedWindowThrowsNothing_data()
+{
+    deletedWindowPaintsNothingFromItsDestructor_data();
+}
+
+// What is thrown out of a destructor ends the program.
+void tst_WidgetRenderer::deletedWindowThrowsNothing()
+{
+    QFETCH(WindowMaker, make);
+    auto [window, place] = make();
+    auto* probe = new Probe(1, place);
+    probe->setGeometry(0, 0, 10, 10);
+    place->show();
+    QWidget tracked;
+    WidgetRenderer renderer(&tracked, nullptr);
+    renderer.ChangeRendererFrame(WholeScreen);
+    probe->hide();
+    probe->show();
+    QVERIFY(isTakenOver(probe));
+    renderer.ChangeRendererFrame(QRect());
+    window.reset();
+    QVERIFY(renderer.GetMaskImage().isNull());
     QCoreApplication::processEvents();
     QVERIFY(renderer.GetMaskImage().isNull());
 }

@@ -14,6 +14,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <typeindex>
+#include <typeinfo>
 
 // QLinkedList is deprecated in Qt 5.15, see the header.
 // clang-format off
@@ -55,6 +57,22 @@ bool isBeingPainted(const QWidget* widget)
             return true;
     }
     return false;
+}
+
+// No member of QWidget tells this, its friend does.
+bool isInDestructor(QWidget* widget)
+{
+    for (; widget; widget = widget->parentWidget()) {
+        if (qt_qwidget_data(widget)->in_destructor)
+            return true;
+    }
+    return false;
+}
+
+std::type_index typeOfWindow(const QWidget& widget)
+{
+    const QWidget& window = *widget.window();
+    return typeid(window);
 }
 
 } // namespace
@@ -169,6 +187,7 @@ void WidgetRenderer::OnWidgetPlaced(QWidget* widget)
         // Two entries on purpose, one here and one below: the picture draws the widget twice, leaving takes out
         // both.
         m_widgets.append(widget);
+        m_windowTypes.insert(widget, typeOfWindow(*widget));
         OnWidgetEntered(widget, true, true);
     } else if (inside) {
         OnWidgetFrameChanged(widget);
@@ -179,11 +198,24 @@ void WidgetRenderer::OnWidgetPlaced(QWidget* widget)
 
 void WidgetRenderer::RemoveFromRenderer(QWidget* widget)
 {
+    if (!IsTrackedWidget(widget))
+        return;
     // All entries but the last, which OnWidgetLeaved() takes: the picture is to be drawn once, and without the
     // widget.
     while (m_widgets.count(widget) > 1)
         m_widgets.removeOne(widget);
-    OnWidgetLeaved(widget, true, true);
+    const bool destroyed = IsBeingDestroyed(widget);
+    OnWidgetLeaved(widget, !destroyed, true);
+    if (destroyed)
+        RedrawWithoutDestroyed();
+}
+
+/// Whether @p widget, which is in the list, or what it lies in has come to its destructor.
+bool WidgetRenderer::IsBeingDestroyed(QWidget* widget) const
+{
+    // Dialogs hide before that, when their window has shrunk to a QDialog.
+    const auto type = m_windowTypes.constFind(widget);
+    return isInDestructor(widget) || (type != m_windowTypes.constEnd() && *type != typeOfWindow(*widget));
 }
 
 void WidgetRenderer::CheckWidget(QWidget* widget) const
@@ -256,8 +288,10 @@ void WidgetRenderer::OnWidgetLeaved(QWidget* widget, bool updateImage, bool remo
         return;
     if (removeFromList) {
         m_widgets.removeOne(widget);
-        if (!IsTrackedWidget(widget))
+        if (!IsTrackedWidget(widget)) {
+            m_windowTypes.remove(widget);
             disconnect(widget, &QObject::destroyed, this, &WidgetRenderer::ForgetWidget);
+        }
     }
     widget->setMask(QRegion());
     widget->setAttribute(Qt::WA_MouseNoMask, false);
@@ -276,6 +310,12 @@ void WidgetRenderer::ForgetWidget(QObject* destroyed)
         return static_cast<const QObject*>(widget) == destroyed;
     };
     m_widgets.erase(std::remove_if(m_widgets.begin(), m_widgets.end(), isDestroyed), m_widgets.end());
+    m_windowTypes.remove(destroyed);
+    RedrawWithoutDestroyed();
+}
+
+void WidgetRenderer::RedrawWithoutDestroyed()
+{
     if (m_composing) {
         m_changedWhileComposing = true;
         return;

@@ -2,12 +2,15 @@
 
 #include <KQt/Ui/Export.h>
 
+#include <QHash>
 #include <QLinkedList>
 #include <QObject>
 #include <QPixmap>
 #include <QPointer>
 #include <QRect>
 #include <QVector>
+
+#include <typeindex>
 
 QT_BEGIN_NAMESPACE
 class QEvent;
@@ -31,8 +34,8 @@ namespace Kestrel::Gui {
 ///   (Qt::WA_MouseNoMask). A mask of its own is replaced. A widget that lies only partly inside is left alone.
 /// - A taken-over widget that is painted, raised, lowered, moved or resized has the picture drawn anew.
 /// - One that no longer lies wholly inside, is hidden or closed loses its mask and Qt::WA_MouseNoMask and leaves the
-///   picture. One that is deleted leaves too; the picture without it follows in the next turn of the event loop, for a
-///   destructor is no place to paint other widgets from.
+///   picture. One that is deleted leaves too, by itself or with its window; the picture without it follows in the next
+///   turn of the event loop, for a destructor is no place to paint other widgets from.
 ///
 /// One cause draws the picture once. What the drawing itself brings about - paint events, masks, exposed parents - does
 /// not start it again. Only when a paint handler changes which widgets there are or where they lie is the picture drawn
@@ -93,6 +96,8 @@ private:
     void RemoveFromRenderer(QWidget* widget);
     void ForgetTrackedWidget();
     void ForgetWidget(QObject* destroyed);
+    bool IsBeingDestroyed(QWidget* widget) const;
+    void RedrawWithoutDestroyed();
 
     void ComposeImage();
     bool IsAnyBeingPainted() const;
@@ -105,6 +110,7 @@ private:
     QPixmap m_image;
     QRect m_rendererRect;
     QLinkedList<QWidget*> m_widgets;
+    QHash<const QObject*, std::type_index> m_windowTypes; // of each in the list, when it was taken over
 
     bool m_composing = false;
     bool m_changedWhileComposing = false;
