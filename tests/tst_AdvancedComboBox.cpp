@@ -226,7 +226,8 @@ void tst_AdvancedComboBox::textSettingsDoNotRepaint()
     box.setTooltipTemplate(QStringLiteral("File: %1"));
     box.setElideItemText(false);
     box.setMouseWheelEnabled(false);
-    QCoreApplication::processEvents();
+    // Only what was posted meanwhile: a window system may come with more of its own.
+    QCoreApplication::sendPostedEvents();
     QCOMPARE(box.paintings, 0);
     QCOMPARE(box.toolTip(), longText());
 }

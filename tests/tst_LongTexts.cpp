@@ -49,7 +49,8 @@ void tst_LongTexts::texts()
     QTest::newRow("one word") << repeated(QStringLiteral("x"));
     QTest::newRow("words") << repeated(QStringLiteral("the quick brown fox "));
     QTest::newRow("wide letters") << repeated(QStringLiteral("\u6f22\u5b57"));
-    QTest::newRow("right to left") << repeated(QStringLiteral("\u0645\u0631\u062d\u0628\u0627 "));
+    // Letters that join take another form where a text is cut, and may be wider for it: these do not.
+    QTest::newRow("right to left") << repeated(QStringLiteral("\u05e9\u05dc\u05d5\u05dd "));
     QTest::newRow("unpaired surrogates") << repeated(QString(QChar(0xd83d)));
     QTest::newRow("lines") << repeated(QStringLiteral("line\n"));
 }
