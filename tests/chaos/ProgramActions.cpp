@@ -108,7 +108,7 @@ void enableOrDisable(Zoo& zoo, Chance& chance)
 }
 
 // Lower than a line of theirs, Qt's own text edits show and hide their scroll bars for ever. A renderer of an area
-// without a size reports that by an exception, also to those who destroy what it has taken over.
+// without a size answers the events of what it has taken over by exceptions.
 QSize leastSize(const QWidget& widget)
 {
     if (qobject_cast<const QPlainTextEdit*>(&widget))
