@@ -836,6 +836,8 @@ void tst_WidgetRenderer::masksDoNotDrawAgain()
     SKIP_ON_WAYLAND("windows are not where the application wants them here");
     Stage stage(QPoint(-50, -50));
     QVERIFY(QTest::qWaitForWindowExposed(&stage));
+    if (stage.pos() != QPoint(-50, -50))
+        QSKIP("windows are kept on the screen here, whatever their flags are");
     Probe* outer = stage.addProbe(1, QRect(30, 20, 200, 100));
     Probe inner(3, outer);
     inner.setGeometry(100, 5, 10, 10);
