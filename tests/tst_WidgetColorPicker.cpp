@@ -35,6 +35,12 @@ bool onDisplay()
     return QGuiApplication::platformName() == QLatin1String("xcb");
 }
 
+/// Whether windows can be seen, and read from the screen.
+bool showsWindows()
+{
+    return onDisplay() || QGuiApplication::platformName() == QLatin1String("windows");
+}
+
 /// Whether a test function compares the colour under a cursor that it has placed.
 bool samplesUnderTheCursor(const char* function)
 {
@@ -459,7 +465,7 @@ void tst_WidgetColorPicker::overrideCursorOfTheApplicationStays()
 
 void tst_WidgetColorPicker::withoutAPictureOfTheScreenTheWindowIsRead()
 {
-    if (onDisplay() || QGuiApplication::platformName() == QLatin1String("windows"))
+    if (showsWindows())
         QSKIP("needs a window system that gives no picture, as the offscreen one where nothing is shown");
     Scene scene;
     scene.window.hide();
@@ -535,7 +541,7 @@ void tst_WidgetColorPicker::filterIsGoneAfterwards()
 
 void tst_WidgetColorPicker::overlappingWindowIsSampled()
 {
-    if (!onDisplay())
+    if (!showsWindows())
         QSKIP("needs a window system that shows overlapping windows");
     Scene scene;
     QWidget over(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
@@ -551,7 +557,7 @@ void tst_WidgetColorPicker::overlappingWindowIsSampled()
 void tst_WidgetColorPicker::translucentWindowOnTopGivesAnOpaqueColor()
 {
     if (!onDisplay())
-        QSKIP("needs a window system that shows overlapping windows");
+        QSKIP("needs a window system that shows translucent windows");
     Scene scene;
     QWidget over(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     over.setAttribute(Qt::WA_TranslucentBackground);
