@@ -203,7 +203,8 @@ void tst_MeasuringDelegate::modelThatChangesWhileItIsAsked()
 
 void tst_MeasuringDelegate::invalidIndex()
 {
-    const QStyleOptionViewItem option = List().option();
+    const List list;
+    const QStyleOptionViewItem option = list.option();
     QCOMPARE(MeasuringDelegate().sizeHint(option, QModelIndex()),
              QStyledItemDelegate().sizeHint(option, QModelIndex()));
 }
