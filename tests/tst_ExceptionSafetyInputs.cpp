@@ -8,6 +8,7 @@
 #include "support/Thrown.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QProxyStyle>
 #include <QSignalSpy>
 #include <QStandardItemModel>
@@ -146,6 +147,8 @@ void tst_ExceptionSafetyInputs::lineEditLosesTheFocus()
 
 void tst_ExceptionSafetyInputs::comboBoxPainting()
 {
+    if (!qApp->styleSheet().isEmpty())
+        QSKIP("the application's style sheet paints combo boxes and does not ask their style");
     Style style;
     AdvancedComboBox box;
     box.setStyle(&style);

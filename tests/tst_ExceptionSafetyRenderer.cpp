@@ -64,7 +64,8 @@ struct Stage
     }
     QColor pixel(const QPoint& inWindow) const
     {
-        return renderer.GetMaskImage().toImage().pixelColor(window.mapToGlobal(inWindow));
+        const QImage picture = renderer.GetMaskImage().toImage();
+        return picture.pixelColor(window.mapToGlobal(inWindow) * picture.devicePixelRatio());
     }
 
     QWidget tracked;
