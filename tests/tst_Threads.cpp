@@ -135,6 +135,7 @@ class tst_Threads : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void cleanup();
 
     void threadsAreSeen();
@@ -148,6 +149,14 @@ private Q_SLOTS:
     void taskbar();
     void everyExportedClassIsUsed();
 };
+
+/// What Qt starts with a program's first window does not count: under Wayland it connects to the bus.
+void tst_Threads::initTestCase()
+{
+    QMainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+}
 
 void tst_Threads::cleanup()
 {
@@ -312,17 +321,19 @@ void tst_Threads::taskbarWithoutADock()
 void tst_Threads::taskbar()
 {
     QGuiApplication::setDesktopFileName(QStringLiteral("org.example.Viewer"));
+    const bool isConnected = TestSupport::processThreads().values().contains(busThread());
+    const QStringList expected = isConnected ? QStringList() : QStringList{busThread()};
     ThreadWatch watch;
     for (int repetition = 0; repetition < 3; ++repetition) {
         QWindow window;
         TaskbarProgress progress(&window);
         progress.SetProgress(0.5);
-        QTRY_COMPARE(watch.namesAfterLooking(), QStringList{busThread()});
+        QTRY_COMPARE(watch.namesAfterLooking(), expected);
         progress.Stop();
         progress.Reset();
         QCoreApplication::processEvents();
     }
-    QCOMPARE(watch.namesAfterLooking(), QStringList{busThread()});
+    QCOMPARE(watch.namesAfterLooking(), expected);
 }
 
 /// So that a class that comes is looked at as well.
