@@ -12,7 +12,6 @@
 
 #include <QtTest>
 
-
 using Kestrel::Gui::AdvancedComboBox;
 using TestSupport::editFieldOf;
 using TestSupport::elidedTo;
@@ -282,6 +281,11 @@ void tst_AdvancedComboBox::toolTipIsMadeFromTheTemplate_data()
     // QString::arg() takes the lowest place marker, whatever its number.
     QTest::newRow("other marker") << QStringLiteral("<%3>") << QLatin1Char('<') + longText() + QLatin1Char('>');
     QTest::newRow("two markers") << QStringLiteral("%2 %1") << QStringLiteral("%2 ") + longText();
+    QTest::newRow("marker for numbers") << QStringLiteral("<%L1>") << QLatin1Char('<') + longText() + QLatin1Char('>');
+    QTest::newRow("after a percent sign") << QStringLiteral("100%%1") << QStringLiteral("100%") + longText();
+    QTest::newRow("Arabic digit") << QStringLiteral("%\u0661") << longText();
+    for (const char* text : {"", "no marker", "%", "100 %", "%L", "%L%", "% 1", "%x1"})
+        QTest::addRow("'%s'", text) << QString::fromLatin1(text) << QString::fromLatin1(text);
 }
 
 void tst_AdvancedComboBox::toolTipIsMadeFromTheTemplate()
@@ -292,8 +296,10 @@ void tst_AdvancedComboBox::toolTipIsMadeFromTheTemplate()
     box.addItem(longText());
     box.resize(120, 30);
     box.setTooltipTemplate(pattern);
+    const TestSupport::WarningCatcher catcher;
     render(box);
     QCOMPARE(box.toolTip(), toolTip);
+    QCOMPARE(catcher.warnings(), QStringList());
 }
 
 void tst_AdvancedComboBox::clearsAToolTipSetFromOutside()

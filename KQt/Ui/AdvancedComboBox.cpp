@@ -11,6 +11,26 @@
 
 namespace Kestrel::Gui {
 
+namespace {
+
+/// Whether QString::arg() finds a place in @p text; where there is none it complains, at each painting.
+bool hasPlaceMarker(const QString& text)
+{
+    for (int at = text.indexOf(QLatin1Char('%')); at >= 0; at = text.indexOf(QLatin1Char('%'), at + 1)) {
+        const int number = text.midRef(at + 1, 1) == QLatin1String("L") ? at + 2 : at + 1;
+        if (number < text.size() && text.at(number).digitValue() >= 0)
+            return true;
+    }
+    return false;
+}
+
+QString filledIn(const QString& toolTip, const QString& text)
+{
+    return hasPlaceMarker(toolTip) ? toolTip.arg(text, 0, QLatin1Char(' ')) : toolTip;
+}
+
+} // namespace
+
 AdvancedComboBox::AdvancedComboBox(QWidget* parent)
     : QComboBox(parent)
 {
@@ -93,8 +113,7 @@ void AdvancedComboBox::paintEvent(QPaintEvent* event)
     QStyleOptionComboBox option;
     initStyleOption(&option);
     const QString shown = Detail::paintElided(painter, *this, option, Detail::editField(*this, option).width());
-    Detail::updateToolTip(*this, currentText() == shown ? QString()
-                                                        : m_tooltipTemplate.arg(currentText(), 0, QLatin1Char(' ')));
+    Detail::updateToolTip(*this, currentText() == shown ? QString() : filledIn(m_tooltipTemplate, currentText()));
 }
 
 } // namespace Kestrel::Gui

@@ -38,8 +38,8 @@ public:
     bool elideItemText() const;
     void setElideItemText(bool elide);
 
-    /// The tool tip of an elided text; QString::arg() puts the full text in. "%1" at first. Takes effect with the next
-    /// painting.
+    /// The tool tip of an elided text; QString::arg() puts the full text in. "%1" at first. Without a place marker it is
+    /// the tool tip as it stands. Takes effect with the next painting.
     QString tooltipTemplate() const;
     void setTooltipTemplate(QString tooltipTemplate);
 
