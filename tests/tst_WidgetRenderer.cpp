@@ -263,6 +263,7 @@ private Q_SLOTS:
     void forgetsDeletedWindow();
     void deletedWindowPaintsNothingFromItsDestructor_data();
     void deletedWindowPaintsNothingFromItsDestructor();
+    void windowShownByItsBaseClassIsAliveWhenItHides();
     void deletedWindowThrowsNothing_data();
     void deletedWindowThrowsNothing();
     void widgetMayDeleteItselfWhilePainted();
@@ -1220,6 +1221,39 @@ void tst_WidgetRenderer::deletedWindowPaintsNothingFromItsDestructor()
     QCOMPARE(paints, 0);
     QTRY_COMPARE(pixel(renderer, both), Probe::colorAt(1, QPoint(3, 4)));
     QVERIFY(paints > 0);
+}
+
+// What lies in it is taken over before the window is all that it will be.
+void tst_WidgetRenderer::windowShownByItsBaseClassIsAliveWhenItHides()
+{
+    SKIP_ON_WAYLAND("windows are not where the application wants them here");
+    class EarlyDialog : public Dialog
+    {
+    public:
+        EarlyDialog()
+        {
+            probe->setGeometry(0, 0, 10, 10);
+            show();
+        }
+        Probe* probe = new Probe(1, this);
+    };
+    class LateDialog : public EarlyDialog
+    {
+    };
+
+    QWidget tracked;
+    WidgetRenderer renderer(&tracked, nullptr);
+    renderer.ChangeRendererFrame(WholeScreen);
+    LateDialog dialog;
+    QVERIFY(isTakenOver(dialog.probe));
+    QVERIFY(!renderer.GetMaskImage().isNull());
+    Stage stays;
+    Probe* witness = stays.addProbe(2, QRect(0, 0, 30, 20));
+    witness->show();
+    witness->paints = 0;
+    dialog.hide();
+    QVERIFY(!isTakenOver(dialog.probe));
+    QVERIFY(witness->paints > 0);
 }
 
 void tst_WidgetRenderer::deletedWindowThrowsNothing_data()

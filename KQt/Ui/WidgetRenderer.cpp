@@ -4,6 +4,7 @@
 #include <KQt/Ui/InterruptedCalls.h>
 
 #include <QApplication>
+#include <QDialog>
 #include <QMoveEvent>
 #include <QPointer>
 #include <QRegion>
@@ -14,7 +15,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <typeindex>
 #include <typeinfo>
 
 // QLinkedList is deprecated in Qt 5.15, see the header.
@@ -69,10 +69,11 @@ bool isInDestructor(QWidget* widget)
     return false;
 }
 
-std::type_index typeOfWindow(const QWidget& widget)
+/// Whether the window of @p widget is a dialog of a class of its own, as it stops to be in the destructor of QDialog.
+bool isInDerivedDialog(const QWidget& widget)
 {
-    const QWidget& window = *widget.window();
-    return typeid(window);
+    const auto* dialog = qobject_cast<const QDialog*>(widget.window());
+    return dialog && typeid(*dialog) != typeid(QDialog);
 }
 
 } // namespace
@@ -187,7 +188,8 @@ void WidgetRenderer::OnWidgetPlaced(QWidget* widget)
         // Two entries on purpose, one here and one below: the picture draws the widget twice, leaving takes out
         // both.
         m_widgets.append(widget);
-        m_windowTypes.insert(widget, typeOfWindow(*widget));
+        if (isInDerivedDialog(*widget))
+            m_inDerivedDialogs.insert(widget);
         OnWidgetEntered(widget, true, true);
     } else if (inside) {
         OnWidgetFrameChanged(widget);
@@ -213,9 +215,8 @@ void WidgetRenderer::RemoveFromRenderer(QWidget* widget)
 /// Whether @p widget, which is in the list, or what it lies in has come to its destructor.
 bool WidgetRenderer::IsBeingDestroyed(QWidget* widget) const
 {
-    // Dialogs hide before that, when their window has shrunk to a QDialog.
-    const auto type = m_windowTypes.constFind(widget);
-    return isInDestructor(widget) || (type != m_windowTypes.constEnd() && *type != typeOfWindow(*widget));
+    // A dialog hides before Qt says so, when no more is left of it than a QDialog.
+    return isInDestructor(widget) || (m_inDerivedDialogs.contains(widget) && !isInDerivedDialog(*widget));
 }
 
 void WidgetRenderer::CheckWidget(QWidget* widget) const
@@ -289,7 +290,7 @@ void WidgetRenderer::OnWidgetLeaved(QWidget* widget, bool updateImage, bool remo
     if (removeFromList) {
         m_widgets.removeOne(widget);
         if (!IsTrackedWidget(widget)) {
-            m_windowTypes.remove(widget);
+            m_inDerivedDialogs.remove(widget);
             disconnect(widget, &QObject::destroyed, this, &WidgetRenderer::ForgetWidget);
         }
     }
@@ -310,7 +311,7 @@ void WidgetRenderer::ForgetWidget(QObject* destroyed)
         return static_cast<const QObject*>(widget) == destroyed;
     };
     m_widgets.erase(std::remove_if(m_widgets.begin(), m_widgets.end(), isDestroyed), m_widgets.end());
-    m_windowTypes.remove(destroyed);
+    m_inDerivedDialogs.remove(destroyed);
     RedrawWithoutDestroyed();
 }
 

@@ -2,15 +2,13 @@
 
 #include <KQt/Ui/Export.h>
 
-#include <QHash>
 #include <QLinkedList>
 #include <QObject>
 #include <QPixmap>
 #include <QPointer>
 #include <QRect>
+#include <QSet>
 #include <QVector>
-
-#include <typeindex>
 
 QT_BEGIN_NAMESPACE
 class QEvent;
@@ -110,7 +108,7 @@ private:
     QPixmap m_image;
     QRect m_rendererRect;
     QLinkedList<QWidget*> m_widgets;
-    QHash<const QObject*, std::type_index> m_windowTypes; // of each in the list, when it was taken over
+    QSet<const QObject*> m_inDerivedDialogs; // those of the list that were taken over in a dialog of a class of its own
 
     bool m_composing = false;
     bool m_changedWhileComposing = false;
