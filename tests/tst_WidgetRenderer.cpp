@@ -63,6 +63,13 @@ private:
     int m_number;
 };
 
+Probe* probeIn(QWidget* parent, int number, const QRect& geometry)
+{
+    auto* probe = new Probe(number, parent);
+    probe->setGeometry(geometry);
+    return probe;
+}
+
 /// A window without decorations whose contents lie at @p at on the screen.
 class Stage : public QWidget
 {
@@ -74,12 +81,7 @@ public:
         show();
     }
 
-    Probe* addProbe(int number, const QRect& geometry)
-    {
-        auto* probe = new Probe(number, this);
-        probe->setGeometry(geometry);
-        return probe;
-    }
+    Probe* addProbe(int number, const QRect& geometry) { return probeIn(this, number, geometry); }
 };
 
 /// A dialog that lies where a Stage does, and is more than a QDialog.
@@ -1198,10 +1200,8 @@ void tst_WidgetRenderer::deletedWindowPaintsNothingFromItsDestructor()
     Stage stays;
     Probe* survivor = stays.addProbe(1, QRect(0, 0, 30, 20));
     auto [window, place] = make();
-    auto* first = new Probe(2, place);
-    first->setGeometry(0, 0, 10, 10);
-    auto* second = new Probe(3, place);
-    second->setGeometry(12, 0, 10, 10);
+    Probe* first = probeIn(place, 2, QRect(0, 0, 10, 10));
+    Probe* second = probeIn(place, 3, QRect(12, 0, 10, 10));
     place->show();
     QWidget tracked;
     WidgetRenderer renderer(&tracked, nullptr);
@@ -1230,12 +1230,8 @@ void tst_WidgetRenderer::windowShownByItsBaseClassIsAliveWhenItHides()
     class EarlyDialog : public Dialog
     {
     public:
-        EarlyDialog()
-        {
-            probe->setGeometry(0, 0, 10, 10);
-            show();
-        }
-        Probe* probe = new Probe(1, this);
+        EarlyDialog() { show(); }
+        Probe* probe = probeIn(this, 1, QRect(0, 0, 10, 10));
     };
     class LateDialog : public EarlyDialog
     {
@@ -1266,8 +1262,7 @@ void tst_WidgetRenderer::deletedWindowThrowsNothing()
 {
     QFETCH(WindowMaker, make);
     auto [window, place] = make();
-    auto* probe = new Probe(1, place);
-    probe->setGeometry(0, 0, 10, 10);
+    Probe* probe = probeIn(place, 1, QRect(0, 0, 10, 10));
     place->show();
     QWidget tracked;
     WidgetRenderer renderer(&tracked, nullptr);
